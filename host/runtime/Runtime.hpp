@@ -1,0 +1,48 @@
+#pragma once
+
+#include "localization/Localizer.hpp"
+#include "registry/SuiteRegistry.hpp"
+#include "runtime/AlertLog.hpp"
+#include "runtime/BlockAllocator.hpp"
+#include "runtime/ContextStack.hpp"
+#include "runtime/FaultPlan.hpp"
+#include "runtime/MenuBar.hpp"
+#include "runtime/NotifierCenter.hpp"
+
+#include <string>
+#include <vector>
+
+namespace zm::host {
+
+// One framework Dispatch as the framework received it; tests read these to see which
+// messages reached the framework.
+struct DispatchRecord {
+    std::string caller;
+    std::string selector;
+    bool signatureValid = false;
+};
+
+// The host of one process. Suite entries are plain C functions without a context argument,
+// so they reach the host through Current(); one runtime exists at a time.
+class Runtime {
+public:
+    Runtime();
+    ~Runtime();
+    Runtime(const Runtime&) = delete;
+    Runtime& operator=(const Runtime&) = delete;
+
+    // Throws HostError(ZM_ERR_NOT_STARTED) when no runtime exists.
+    static Runtime& Current();
+
+    FaultPlan faults;
+    SuiteRegistry suites;
+    BlockAllocator blocks{faults};
+    AlertLog alerts;
+    ContextStack contexts;
+    MenuBar menus;
+    NotifierCenter notifiers;
+    Localizer localizer;
+    std::vector<DispatchRecord> dispatches;
+};
+
+}  // namespace zm::host

@@ -1,0 +1,18 @@
+#include "suites/SuiteCatalogue.hpp"
+
+#include "suites/SuiteRegistrations.hpp"
+
+namespace zm::host {
+
+void RegisterAllSuites(SuiteRegistry& registry) {
+    RegisterFrameworkSuites(registry);
+    RegisterContextSuite(registry);
+    RegisterPXMBasicSuite(registry);
+    RegisterUserSuite(registry);
+    RegisterMenuSuite(registry);
+    RegisterNotifierSuite(registry);
+    RegisterUnicodeStringSuite(registry);
+    RegisterPendingSuites(registry);
+}
+
+}  // namespace zm::host

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "registry/SuiteRegistry.hpp"
+
+namespace zm::host {
+
+// One per suite file: adds that file's tables to the registry.
+void RegisterFrameworkSuites(SuiteRegistry& registry);
+void RegisterContextSuite(SuiteRegistry& registry);
+void RegisterPXMBasicSuite(SuiteRegistry& registry);
+void RegisterUserSuite(SuiteRegistry& registry);
+void RegisterMenuSuite(SuiteRegistry& registry);
+void RegisterNotifierSuite(SuiteRegistry& registry);
+void RegisterUnicodeStringSuite(SuiteRegistry& registry);
+void RegisterPendingSuites(SuiteRegistry& registry);
+
+}  // namespace zm::host
