@@ -17,7 +17,10 @@ Runtime::Runtime() {
     current = this;
 }
 
-Runtime::~Runtime() { current = nullptr; }
+Runtime::~Runtime() {
+    plugins.StopAll();
+    current = nullptr;
+}
 
 Runtime& Runtime::Current() {
     if (current == nullptr) {

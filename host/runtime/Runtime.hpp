@@ -1,5 +1,6 @@
 #pragma once
 
+#include "loader/PluginManager.hpp"
 #include "localization/Localizer.hpp"
 #include "registry/SuiteRegistry.hpp"
 #include "runtime/AlertLog.hpp"
@@ -43,6 +44,8 @@ public:
     NotifierCenter notifiers;
     Localizer localizer;
     std::vector<DispatchRecord> dispatches;
+    // Last, so that plug-ins still loaded are stopped while everything else still exists.
+    PluginManager plugins;
 };
 
 }  // namespace zm::host

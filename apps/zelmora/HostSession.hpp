@@ -1,0 +1,39 @@
+#pragma once
+
+#include <runtime/Runtime.hpp>
+
+#include <filesystem>
+#include <iosfwd>
+#include <vector>
+
+namespace zelmora {
+
+// One headless host session: the runtime, its plug-ins started from the plug-in folders,
+// and what the user must hear about on standard error (skipped bundles, alerts).
+class HostSession {
+public:
+    HostSession(const std::vector<std::filesystem::path>& extraFolders, std::ostream& errors);
+    ~HostSession();
+    HostSession(const HostSession&) = delete;
+    HostSession& operator=(const HostSession&) = delete;
+
+    zm::host::Runtime& Runtime() { return runtime_; }
+    // Stops the plug-ins (their shut-down may still raise alerts) and reports what is left.
+    void Finish();
+
+private:
+    void ReportProblems();
+    void ReportAlerts();
+
+    zm::host::Runtime runtime_;
+    std::ostream& errors_;
+    std::size_t problemsReported_ = 0;
+    std::size_t alertsReported_ = 0;
+    bool finished_ = false;
+};
+
+// Folders searched for bundles: the ones given first, then the one beside the command
+// ("../plugins" from its own folder), then the host's defaults.
+std::vector<std::filesystem::path> PluginFolders(const std::vector<std::filesystem::path>& extra);
+
+}  // namespace zelmora

@@ -1,0 +1,221 @@
+#pragma once
+
+// The host suites the plug-in uses, one module-wide pointer per suite. The framework fills
+// every pointer from the required-suite table before start-up and empties them at shut-down;
+// the rest of the plug-in calls the host only through them.
+
+#include <zelmora/HVBlocksSuite.h>
+#include <zelmora/ZMBasicSuite.h>
+#include <zelmora/HVPluginsSuite.h>
+#include <zelmora/KRXArraySuites.h>
+#include <zelmora/KRXCharSuites.h>
+#include <zelmora/KRXCompFontSuites.h>
+#include <zelmora/KRXFindSuite.h>
+#include <zelmora/KRXFontSuite.h>
+#include <zelmora/KRXGlyphSuites.h>
+#include <zelmora/KRXKinsokuSuites.h>
+#include <zelmora/KRXMojiKumiSuites.h>
+#include <zelmora/KRXPaintSuites.h>
+#include <zelmora/KRXParagraphSuites.h>
+#include <zelmora/KRXSpellSuite.h>
+#include <zelmora/KRXStorySuites.h>
+#include <zelmora/KRXTabStopSuites.h>
+#include <zelmora/KRXTextFrameSuites.h>
+#include <zelmora/KRXTextRangeSuites.h>
+#include <zelmora/KRXTextResourcesSuites.h>
+#include <zelmora/PXMBasicSuite.h>
+#include <zelmora/ZMArtStyleSuite.h>
+#include <zelmora/ZMArtSuite.h>
+#include <zelmora/ZMArtboardSuite.h>
+#include <zelmora/ZMBlendStyleSuite.h>
+#include <zelmora/ZMBrushMgrSuite.h>
+#include <zelmora/ZMCharacterEncodingSuite.h>
+#include <zelmora/ZMColorConversionSuite.h>
+#include <zelmora/ZMColorSpaceSuite.h>
+#include <zelmora/ZMContextSuite.h>
+#include <zelmora/ZMCountedObjectSuite.h>
+#include <zelmora/ZMCustomColorSuite.h>
+#include <zelmora/ZMDataFilterSuite.h>
+#include <zelmora/ZMDevUtilsSuite.h>
+#include <zelmora/ZMDictionarySuite.h>
+#include <zelmora/ZMDocumentSuite.h>
+#include <zelmora/ZMFOConversionSuite.h>
+#include <zelmora/ZMFilePathSuite.h>
+#include <zelmora/ZMFontSuite.h>
+#include <zelmora/ZMGradientSuite.h>
+#include <zelmora/ZMGraphSuite.h>
+#include <zelmora/ZMLayerSuite.h>
+#include <zelmora/ZMLiveEffectSuite.h>
+#include <zelmora/ZMLiveShapesSuite.h>
+#include <zelmora/ZMMaskSuite.h>
+#include <zelmora/ZMMatchingArtSuite.h>
+#include <zelmora/ZMMdMemorySuite.h>
+#include <zelmora/ZMMenuSuite.h>
+#include <zelmora/ZMMeshSuite.h>
+#include <zelmora/ZMNotifierSuite.h>
+#include <zelmora/ZMPathStyleSuite.h>
+#include <zelmora/ZMPathSuite.h>
+#include <zelmora/ZMPatternSuite.h>
+#include <zelmora/ZMPlacedSuite.h>
+#include <zelmora/ZMPluginFramework.h>
+#include <zelmora/ZMPluginGroupSuite.h>
+#include <zelmora/ZMPreferenceSuite.h>
+#include <zelmora/ZMQuorvelPIPSuite.h>
+#include <zelmora/ZMRasterSuite.h>
+#include <zelmora/ZMRealMathSuite.h>
+#include <zelmora/ZMStringFormatUtilsSuite.h>
+#include <zelmora/ZMSymbolSuite.h>
+#include <zelmora/ZMTextFrameSuite.h>
+#include <zelmora/ZMUnicodeStringSuite.h>
+#include <zelmora/ZMUserSuite.h>
+#include <zelmora/ZMWorkspaceSuite.h>
+
+namespace tolvane {
+
+// The host's basic suite as the start-up message gave it; used for the optional suites and
+// the globals block. (The framework slot of PluginMain is a separate pointer.)
+extern ZMBasicSuite* sBasicSuite;
+
+extern const PXMBasicSuite* sPxmBasicSuite;
+extern const ZMMenuSuite* sMenuSuite;
+extern const ZMNotifierSuite* sNotifierSuite;
+extern const void* sArtSuite;
+extern const void* sArtboardSuite;
+extern const void* sArtStyleSuite;
+extern const void* sArtStyleParserSuite;
+extern const void* sBlendStyleSuite;
+extern const void* sBrushMgrSuite;
+extern const void* sCustomColorSuite;
+extern const void* sCharacterEncodingSuite;
+extern const void* sDataFilterSuite;
+extern const void* sDevUtilsSuite;
+extern const void* sDictionarySuite;
+extern const void* sDocumentSuite;
+extern const void* sFilePathSuite;
+extern const void* sFontSuite;
+extern const void* sFontGlueSuite;
+extern const void* sGradientSuite;
+extern const void* sGraphSuite;
+extern const void* sLayerSuite;
+extern const void* sLayerListSuite;
+extern const void* sLiveEffectSuite;
+extern const void* sMaskSuite;
+extern const void* sMatchingArtSuite;
+extern const void* sMdMemorySuite;
+extern const void* sMeshSuite;
+extern const void* sOverrideColorConversionSuite;
+extern const void* sPathSuite;
+extern const void* sPathStyleSuite;
+extern const void* sPatternSuite;
+extern const void* sQuorvelPipSuite;
+extern const void* sPlacedSuite;
+extern const void* sPluginGroupSuite;
+extern const void* sPreferenceSuite;
+extern const void* sRasterSuite;
+extern const void* sSymbolSuite;
+extern const ZMUserSuite* sUserSuite;
+extern const void* sWorkspaceSuite;
+extern const void* sHvPluginsSuite;
+extern const ZMLMBPluginSuite* sLmbPluginSuite;
+extern const ZMLMBUtilsSuite* sLmbUtilsSuite;
+extern const ZMUnicodeStringSuite* sUnicodeStringSuite;
+extern const void* sColorSpaceSuite;
+extern const void* sStringFormatUtilsSuite;
+extern const void* sHvBlocksSuite;
+extern const void* sTextFrameSuite;
+extern const void* sFoConversionSuite;
+extern const ZMContextSuite* sContextSuite;
+extern const void* sLiveCornersSuite;
+extern const void* sRealMathSuite;
+extern const void* sCountedObjectSuite;
+extern const void* sZmkrxPaintSuite;
+extern const void* sKrxApplicationPaintSuite;
+extern const void* sKrxCompFontSuite;
+extern const void* sKrxCompFontClassSuite;
+extern const void* sKrxCompFontClassSetSuite;
+extern const void* sKrxCompFontComponentSuite;
+extern const void* sKrxCompFontSetSuite;
+extern const void* sKrxGlyphRunSuite;
+extern const void* sKrxGlyphRunsIteratorSuite;
+extern const void* sKrxMojiKumiSuite;
+extern const void* sKrxMojiKumiSetSuite;
+extern const void* sKrxTextFrameSuite;
+extern const void* sKrxTextFramesIteratorSuite;
+extern const void* sKrxTextLineSuite;
+extern const void* sKrxTextLinesIteratorSuite;
+extern const void* sKrxTextResourcesSuite;
+extern const void* sKrxApplicationTextResourcesSuite;
+extern const void* sKrxDocumentTextResourcesSuite;
+extern const void* sKrxVersionInfoSuite;
+extern const void* sKrxArrayApplicationPaintRefSuite;
+extern const void* sKrxArrayRealSuite;
+extern const void* sKrxArrayBoolSuite;
+extern const void* sKrxArrayIntegerSuite;
+extern const void* sKrxArrayLineCapTypeSuite;
+extern const void* sKrxArrayFigureStyleSuite;
+extern const void* sKrxArrayLineJoinTypeSuite;
+extern const void* sKrxArrayWariChuJustificationSuite;
+extern const void* sKrxArrayStyleRunAlignmentSuite;
+extern const void* sKrxArrayAutoKernTypeSuite;
+extern const void* sKrxArrayBaselineDirectionSuite;
+extern const void* sKrxArrayLanguageSuite;
+extern const void* sKrxArrayFontCapsOptionSuite;
+extern const void* sKrxArrayFontBaselineOptionSuite;
+extern const void* sKrxArrayFontOpenTypePositionOptionSuite;
+extern const void* sKrxArrayUnderlinePositionSuite;
+extern const void* sKrxArrayStrikethroughPositionSuite;
+extern const void* sKrxArrayParagraphJustificationSuite;
+extern const void* sKrxArrayArrayRealSuite;
+extern const void* sKrxArrayBurasagariTypeSuite;
+extern const void* sKrxArrayPreferredKinsokuOrderSuite;
+extern const void* sKrxArrayKinsokuRefSuite;
+extern const void* sKrxArrayMojiKumiRefSuite;
+extern const void* sKrxArrayMojiKumiSetRefSuite;
+extern const void* sKrxArrayTabStopsRefSuite;
+extern const void* sKrxArrayLeadingTypeSuite;
+extern const void* sKrxArrayFontRefSuite;
+extern const void* sKrxArrayGlyphIdSuite;
+extern const void* sKrxArrayRealPointSuite;
+extern const void* sKrxArrayRealMatrixSuite;
+extern const void* sKrxArrayParagraphDirectionSuite;
+extern const void* sKrxArrayJustificationMethodSuite;
+extern const void* sKrxArrayKashidaWidthSuite;
+extern const void* sKrxArrayKashidasSuite;
+extern const void* sKrxArrayDirOverrideSuite;
+extern const void* sKrxArrayDigitSetSuite;
+extern const void* sKrxArrayDiacVPosSuite;
+extern const void* sKrxCharFeaturesSuite;
+extern const void* sKrxCharInspectorSuite;
+extern const void* sKrxCharStyleSuite;
+extern const void* sKrxCharStylesSuite;
+extern const void* sKrxCharStylesIteratorSuite;
+extern const void* sKrxFindSuite;
+extern const void* sKrxFontSuite;
+extern const void* sKrxGlyphSuite;
+extern const void* sKrxGlyphsSuite;
+extern const void* sKrxGlyphsIteratorSuite;
+extern const void* sKrxKinsokuSuite;
+extern const void* sKrxKinsokuSetSuite;
+extern const void* sKrxParaFeaturesSuite;
+extern const void* sKrxParagraphSuite;
+extern const void* sKrxParagraphsIteratorSuite;
+extern const void* sKrxParaInspectorSuite;
+extern const void* sKrxParaStyleSuite;
+extern const void* sKrxParaStylesSuite;
+extern const void* sKrxParaStylesIteratorSuite;
+extern const void* sKrxSpellSuite;
+extern const void* sKrxStoriesSuite;
+extern const void* sKrxStorySuite;
+extern const void* sKrxTabStopSuite;
+extern const void* sKrxTabStopsSuite;
+extern const void* sKrxTabStopsIteratorSuite;
+extern const void* sKrxTextRangeSuite;
+extern const void* sKrxTextRangesSuite;
+extern const void* sKrxTextRangesIteratorSuite;
+extern const void* sKrxTextRunsIteratorSuite;
+extern const void* sKrxWordsIteratorSuite;
+
+// The table the framework walks: 138 rows and an end row.
+extern const ZMSuiteDeclaration kRequiredSuites[];
+
+}  // namespace tolvane

@@ -1,0 +1,23 @@
+#pragma once
+/* Text-engine frames, and the lines composed in them. */
+#include "ZMTypes.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+#define ZM_KRX_TEXT_FRAME_SUITE_NAME    "KRX TextFrame Suite"
+#define ZM_KRX_TEXT_FRAME_SUITE_VERSION 101
+
+#define ZM_KRX_TEXT_FRAMES_ITERATOR_SUITE_NAME    "KRX TextFramesIterator Suite"
+#define ZM_KRX_TEXT_FRAMES_ITERATOR_SUITE_VERSION 1
+
+#define ZM_KRX_TEXT_LINE_SUITE_NAME    "KRX TextLine Suite"
+#define ZM_KRX_TEXT_LINE_SUITE_VERSION 2
+
+#define ZM_KRX_TEXT_LINES_ITERATOR_SUITE_NAME    "KRX TextLinesIterator Suite"
+#define ZM_KRX_TEXT_LINES_ITERATOR_SUITE_VERSION 1
+
+#ifdef __cplusplus
+}
+#endif
