@@ -1,5 +1,5 @@
 #pragma once
-/* Plug-in property lists: what the host read from each plug-in bundle. */
+/* Usage data: named groups of key and value texts that the host appends to its usage log. */
 #include "ZMTypes.h"
 
 #ifdef __cplusplus
