@@ -1,7 +1,7 @@
 #include "loader/PropertyList.hpp"
 
-#include "host/loader/ScratchFolder.hpp"
 #include "host/loader/TolvanePropertyListBytes.hpp"
+#include "support/ScratchFolder.hpp"
 
 #include <gtest/gtest.h>
 
@@ -174,7 +174,7 @@ TEST(PropertyListTest, AnUnknownKeyIsSkipped) {
 }
 
 TEST(PropertyListTest, AMissingFileIsReportedWithItsPath) {
-    test::ScratchFolder folder;
+    zm::test::ScratchFolder folder;
     std::filesystem::path file = folder.Path() / "absent.pipl";
     try {
         ReadPropertyList(file);
@@ -185,7 +185,7 @@ TEST(PropertyListTest, AMissingFileIsReportedWithItsPath) {
 }
 
 TEST(PropertyListTest, ATruncatedFileIsReportedWithItsPath) {
-    test::ScratchFolder folder;
+    zm::test::ScratchFolder folder;
     std::filesystem::path file = folder.Path() / "plugin.pipl";
     WriteBytes(file, Bytes(kTolvanePropertyList.begin(), kTolvanePropertyList.begin() + 40));
     try {

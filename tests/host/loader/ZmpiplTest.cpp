@@ -1,5 +1,5 @@
-#include "host/loader/ScratchFolder.hpp"
 #include "host/loader/TolvanePropertyListBytes.hpp"
+#include "support/ScratchFolder.hpp"
 
 #include <gtest/gtest.h>
 
@@ -65,7 +65,7 @@ public:
     }
 
 private:
-    test::ScratchFolder folder_;
+    zm::test::ScratchFolder folder_;
     int exitCode_ = -1;
     std::string errors_;
 };
