@@ -1,74 +1,16 @@
 #include "suites/SuiteRegistrations.hpp"
 
-#include <zelmora/HVBlocksSuite.h>
-#include <zelmora/HVPluginsSuite.h>
-#include <zelmora/KRXArraySuites.h>
-#include <zelmora/KRXCharSuites.h>
-#include <zelmora/KRXCompFontSuites.h>
-#include <zelmora/KRXFindSuite.h>
-#include <zelmora/KRXFontSuite.h>
-#include <zelmora/KRXGlyphSuites.h>
-#include <zelmora/KRXKinsokuSuites.h>
-#include <zelmora/KRXMojiKumiSuites.h>
-#include <zelmora/KRXPaintSuites.h>
-#include <zelmora/KRXParagraphSuites.h>
-#include <zelmora/KRXSpellSuite.h>
-#include <zelmora/KRXStorySuites.h>
-#include <zelmora/KRXTabStopSuites.h>
-#include <zelmora/KRXTextFrameSuites.h>
-#include <zelmora/KRXTextRangeSuites.h>
-#include <zelmora/KRXTextResourcesSuites.h>
-#include <zelmora/PXMBasicSuite.h>
-#include <zelmora/ZMARMSuite.h>
-#include <zelmora/ZMArtStyleSuite.h>
-#include <zelmora/ZMArtSuite.h>
-#include <zelmora/ZMArtboardSuite.h>
-#include <zelmora/ZMBasicSuite.h>
-#include <zelmora/ZMBlendStyleSuite.h>
-#include <zelmora/ZMBrushMgrSuite.h>
-#include <zelmora/ZMCharacterEncodingSuite.h>
-#include <zelmora/ZMColorConversionSuite.h>
-#include <zelmora/ZMColorSpaceSuite.h>
-#include <zelmora/ZMContextSuite.h>
-#include <zelmora/ZMCountedObjectSuite.h>
-#include <zelmora/ZMCustomColorSuite.h>
-#include <zelmora/ZMDataFilterSuite.h>
-#include <zelmora/ZMDevUtilsSuite.h>
-#include <zelmora/ZMDictionarySuite.h>
-#include <zelmora/ZMDocumentSuite.h>
-#include <zelmora/ZMFOConversionSuite.h>
-#include <zelmora/ZMFilePathSuite.h>
-#include <zelmora/ZMFontSuite.h>
-#include <zelmora/ZMGradientSuite.h>
-#include <zelmora/ZMGraphSuite.h>
-#include <zelmora/ZMLayerSuite.h>
-#include <zelmora/ZMLiveEffectSuite.h>
-#include <zelmora/ZMLiveShapesSuite.h>
-#include <zelmora/ZMMaskSuite.h>
-#include <zelmora/ZMMatchingArtSuite.h>
-#include <zelmora/ZMMdMemorySuite.h>
-#include <zelmora/ZMMenuSuite.h>
-#include <zelmora/ZMMeshSuite.h>
-#include <zelmora/ZMNotifierSuite.h>
-#include <zelmora/ZMPathStyleSuite.h>
-#include <zelmora/ZMPathSuite.h>
-#include <zelmora/ZMPatternSuite.h>
-#include <zelmora/ZMPlacedSuite.h>
+#include "support/DeclaredSuites.hpp"
+
 #include <zelmora/ZMPluginFramework.h>
-#include <zelmora/ZMPluginGroupSuite.h>
-#include <zelmora/ZMPluginMain.h>
-#include <zelmora/ZMPreferenceSuite.h>
-#include <zelmora/ZMQuorvelPIPSuite.h>
-#include <zelmora/ZMRasterSuite.h>
-#include <zelmora/ZMRealMathSuite.h>
-#include <zelmora/ZMStringFormatUtilsSuite.h>
-#include <zelmora/ZMSymbolSuite.h>
-#include <zelmora/ZMTextFrameSuite.h>
-#include <zelmora/ZMTypes.h>
-#include <zelmora/ZMUnicodeStringSuite.h>
+#include <zelmora/ZMContextSuite.h>
+#include <zelmora/PXMBasicSuite.h>
 #include <zelmora/ZMUserSuite.h>
-#include <zelmora/ZMVectorizeSuite.h>
-#include <zelmora/ZMWorkspaceSuite.h>
+#include <zelmora/ZMMenuSuite.h>
+#include <zelmora/ZMNotifierSuite.h>
+#include <zelmora/ZMUnicodeStringSuite.h>
+#include <zelmora/ZMArtSuite.h>
+#include <zelmora/ZMDocumentSuite.h>
 
 #include <gtest/gtest.h>
 
@@ -81,164 +23,18 @@
 namespace zm::host {
 namespace {
 
-struct SuiteRow {
-    std::string name;
-    int32_t version;
-};
+using zm::test::SuiteRow;
 
-// Pairs a suite's name and version constants, so a row cannot mix two suites.
-#define ZM_SUITE_ROW(suite) {suite##_NAME, suite##_VERSION}
-
-// Every suite a plug-in may ask for: the required ones in declaration order, then the
-// optional ones.
+// Every suite a plug-in may ask for: the required ones, then the optional ones.
 const std::vector<SuiteRow>& DeclaredSuites() {
-    static const std::vector<SuiteRow> rows = {
-        ZM_SUITE_ROW(ZM_PXM_BASIC_SUITE),
-        ZM_SUITE_ROW(ZM_MENU_SUITE),
-        ZM_SUITE_ROW(ZM_NOTIFIER_SUITE),
-        ZM_SUITE_ROW(ZM_ART_SUITE),
-        ZM_SUITE_ROW(ZM_ARTBOARD_SUITE),
-        ZM_SUITE_ROW(ZM_ART_STYLE_SUITE),
-        ZM_SUITE_ROW(ZM_ART_STYLE_PARSER_SUITE),
-        ZM_SUITE_ROW(ZM_BLEND_STYLE_SUITE),
-        ZM_SUITE_ROW(ZM_BRUSH_MGR_SUITE),
-        ZM_SUITE_ROW(ZM_CUSTOM_COLOR_SUITE),
-        ZM_SUITE_ROW(ZM_CHARACTER_ENCODING_SUITE),
-        ZM_SUITE_ROW(ZM_DATA_FILTER_SUITE),
-        ZM_SUITE_ROW(ZM_DEV_UTILS_SUITE),
-        ZM_SUITE_ROW(ZM_DICTIONARY_SUITE),
-        ZM_SUITE_ROW(ZM_DOCUMENT_SUITE),
-        ZM_SUITE_ROW(ZM_FILE_PATH_SUITE),
-        ZM_SUITE_ROW(ZM_FONT_SUITE),
-        ZM_SUITE_ROW(ZM_FONT_GLUE_SUITE),
-        ZM_SUITE_ROW(ZM_GRADIENT_SUITE),
-        ZM_SUITE_ROW(ZM_GRAPH_SUITE),
-        ZM_SUITE_ROW(ZM_LAYER_SUITE),
-        ZM_SUITE_ROW(ZM_LAYER_LIST_SUITE),
-        ZM_SUITE_ROW(ZM_LIVE_EFFECT_SUITE),
-        ZM_SUITE_ROW(ZM_MASK_SUITE),
-        ZM_SUITE_ROW(ZM_MATCHING_ART_SUITE),
-        ZM_SUITE_ROW(ZM_MD_MEMORY_SUITE),
-        ZM_SUITE_ROW(ZM_MESH_SUITE),
-        ZM_SUITE_ROW(ZM_OVERRIDE_COLOR_CONVERSION_SUITE),
-        ZM_SUITE_ROW(ZM_PATH_SUITE),
-        ZM_SUITE_ROW(ZM_PATH_STYLE_SUITE),
-        ZM_SUITE_ROW(ZM_PATTERN_SUITE),
-        ZM_SUITE_ROW(ZM_QUORVEL_PIP_SUITE),
-        ZM_SUITE_ROW(ZM_PLACED_SUITE),
-        ZM_SUITE_ROW(ZM_PLUGIN_GROUP_SUITE),
-        ZM_SUITE_ROW(ZM_PREFERENCE_SUITE),
-        ZM_SUITE_ROW(ZM_RASTER_SUITE),
-        ZM_SUITE_ROW(ZM_SYMBOL_SUITE),
-        ZM_SUITE_ROW(ZM_USER_SUITE),
-        ZM_SUITE_ROW(ZM_WORKSPACE_SUITE),
-        ZM_SUITE_ROW(ZM_HV_PLUGINS_SUITE),
-        ZM_SUITE_ROW(ZM_LMB_PLUGIN_SUITE),
-        ZM_SUITE_ROW(ZM_LMB_UTILS_SUITE),
-        ZM_SUITE_ROW(ZM_UNICODE_STRING_SUITE),
-        ZM_SUITE_ROW(ZM_COLOR_SPACE_SUITE),
-        ZM_SUITE_ROW(ZM_STRING_FORMAT_UTILS_SUITE),
-        ZM_SUITE_ROW(ZM_HV_BLOCKS_SUITE),
-        ZM_SUITE_ROW(ZM_TEXT_FRAME_SUITE),
-        ZM_SUITE_ROW(ZM_FO_CONVERSION_SUITE),
-        ZM_SUITE_ROW(ZM_CONTEXT_SUITE),
-        ZM_SUITE_ROW(ZM_LIVE_CORNERS_SUITE),
-        ZM_SUITE_ROW(ZM_REAL_MATH_SUITE),
-        ZM_SUITE_ROW(ZM_COUNTED_OBJECT_SUITE),
-        ZM_SUITE_ROW(ZM_ZMKRX_PAINT_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_APPLICATION_PAINT_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_COMP_FONT_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_COMP_FONT_CLASS_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_COMP_FONT_CLASS_SET_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_COMP_FONT_COMPONENT_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_COMP_FONT_SET_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_GLYPH_RUN_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_GLYPH_RUNS_ITERATOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_MOJI_KUMI_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_MOJI_KUMI_SET_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TEXT_FRAME_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TEXT_FRAMES_ITERATOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TEXT_LINE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TEXT_LINES_ITERATOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TEXT_RESOURCES_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_APPLICATION_TEXT_RESOURCES_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_DOCUMENT_TEXT_RESOURCES_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_VERSION_INFO_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_APPLICATION_PAINT_REF_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_REAL_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_BOOL_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_INTEGER_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_LINE_CAP_TYPE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_FIGURE_STYLE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_LINE_JOIN_TYPE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_WARI_CHU_JUSTIFICATION_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_STYLE_RUN_ALIGNMENT_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_AUTO_KERN_TYPE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_BASELINE_DIRECTION_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_LANGUAGE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_FONT_CAPS_OPTION_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_FONT_BASELINE_OPTION_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_FONT_OPEN_TYPE_POSITION_OPTION_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_UNDERLINE_POSITION_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_STRIKETHROUGH_POSITION_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_PARAGRAPH_JUSTIFICATION_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_ARRAY_REAL_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_BURASAGARI_TYPE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_PREFERRED_KINSOKU_ORDER_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_KINSOKU_REF_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_MOJI_KUMI_REF_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_MOJI_KUMI_SET_REF_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_TAB_STOPS_REF_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_LEADING_TYPE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_FONT_REF_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_GLYPH_ID_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_REAL_POINT_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_REAL_MATRIX_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_PARAGRAPH_DIRECTION_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_JUSTIFICATION_METHOD_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_KASHIDA_WIDTH_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_KASHIDAS_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_DIR_OVERRIDE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_DIGIT_SET_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_ARRAY_DIAC_V_POS_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_CHAR_FEATURES_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_CHAR_INSPECTOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_CHAR_STYLE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_CHAR_STYLES_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_CHAR_STYLES_ITERATOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_FIND_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_FONT_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_GLYPH_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_GLYPHS_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_GLYPHS_ITERATOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_KINSOKU_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_KINSOKU_SET_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_PARA_FEATURES_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_PARAGRAPH_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_PARAGRAPHS_ITERATOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_PARA_INSPECTOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_PARA_STYLE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_PARA_STYLES_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_PARA_STYLES_ITERATOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_SPELL_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_STORIES_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_STORY_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TAB_STOP_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TAB_STOPS_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TAB_STOPS_ITERATOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TEXT_RANGE_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TEXT_RANGES_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TEXT_RANGES_ITERATOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_TEXT_RUNS_ITERATOR_SUITE),
-        ZM_SUITE_ROW(ZM_KRX_WORDS_ITERATOR_SUITE),
-        ZM_SUITE_ROW(ZM_LIVE_SHAPES_SUITE),
-        ZM_SUITE_ROW(ZM_VECTORIZE_SUITE),
-        ZM_SUITE_ROW(ZM_ARM_SUITE),
-    };
+    static const std::vector<SuiteRow> rows = [] {
+        std::vector<SuiteRow> all = zm::test::RequiredSuiteRows();
+        const auto& optional = zm::test::OptionalSuiteRows();
+        all.insert(all.end(), optional.begin(), optional.end());
+        return all;
+    }();
     return rows;
 }
-
-#undef ZM_SUITE_ROW
 
 // Suites whose function tables register from their own files.
 bool HasItsOwnFile(const std::string& name) {
