@@ -12,21 +12,6 @@
 
 namespace zelmora {
 
-namespace {
-
-// The line always reads "<bundle>: <reason>". Most messages already start with the bundle's
-// folder, but one about a library that cannot be loaded names only its shared object, and the
-// user would be left to guess which bundle was skipped.
-std::string ProblemReason(const zm::host::BundleProblem& problem) {
-    std::string bundlePrefix = problem.bundle.string() + ": ";
-    if (problem.message.starts_with(bundlePrefix)) {
-        return problem.message.substr(bundlePrefix.size());
-    }
-    return problem.message;
-}
-
-}  // namespace
-
 std::vector<std::filesystem::path> PluginFolders(const std::vector<std::filesystem::path>& extra) {
     std::vector<std::filesystem::path> folders = extra;
     std::error_code error;
@@ -75,7 +60,7 @@ void HostSession::ReportProblems() {
     for (; problemsReported_ < problems.size(); ++problemsReported_) {
         const auto& problem = problems[problemsReported_];
         fmt::print(errors_, "zelmora: skipped plug-in bundle {}: {}\n", problem.bundle.string(),
-                   ProblemReason(problem));
+                   problem.reason);
     }
 }
 

@@ -38,7 +38,7 @@ std::map<std::string, std::filesystem::path> ReadResourceMap(
 
 PluginBundle OpenBundle(const std::filesystem::path& folder) {
     auto fail = [&](const std::string& reason) -> BundleError {
-        return BundleError(folder.string() + ": " + reason);
+        return BundleError(folder, reason);
     };
     if (!std::filesystem::is_directory(folder)) {
         throw fail("not a folder");

@@ -24,7 +24,12 @@ struct PluginBundle {
 // What is wrong with a bundle; the message names the bundle folder and the reason.
 class BundleError : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    BundleError(const std::filesystem::path& bundle, const std::string& reason)
+        : std::runtime_error(bundle.string() + ": " + reason), reason_(reason) {}
+    const std::string& Reason() const { return reason_; }
+
+private:
+    std::string reason_;
 };
 
 inline constexpr const char* kBundleExtension = ".zpl";

@@ -12,13 +12,13 @@ PluginLibrary::PluginLibrary(const std::filesystem::path& file, const std::strin
     handle_ = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (handle_ == nullptr) {
         const char* reason = dlerror();
-        throw LibraryError(file.string() + ": cannot be loaded: " + (reason ? reason : "unknown"));
+        throw LibraryError(std::string("cannot be loaded: ") + (reason ? reason : file.string()));
     }
     void* symbol = dlsym(handle_, entryPoint.c_str());
     if (symbol == nullptr) {
         dlclose(handle_);
         handle_ = nullptr;
-        throw LibraryError(file.string() + ": has no entry point " + entryPoint);
+        throw LibraryError(file.filename().string() + " has no entry point " + entryPoint);
     }
     entry_ = reinterpret_cast<ZMPluginMainProc>(symbol);
 }

@@ -17,7 +17,8 @@ public:
 class PluginLibrary {
 public:
     PluginLibrary() = default;
-    // Throws LibraryError naming the file when the module or the entry point is missing.
+    // Throws LibraryError with the reason (the loader's message names the file) when the
+    // module or the entry point is missing.
     PluginLibrary(const std::filesystem::path& file, const std::string& entryPoint);
     ~PluginLibrary();
     PluginLibrary(PluginLibrary&& other) noexcept;

@@ -15,15 +15,22 @@ void PluginManager::Scan(const std::vector<std::filesystem::path>& folders) {
             continue;
         }
         std::vector<std::filesystem::path> bundles;
-        for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
-            if (entry.path().extension() == kBundleExtension) {
-                bundles.push_back(entry.path());
+        try {
+            for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+                if (entry.path().extension() == kBundleExtension) {
+                    bundles.push_back(entry.path());
+                }
             }
+        } catch (const std::filesystem::filesystem_error& problem) {
+            problems_.push_back({folder, std::string("cannot be listed: ") + problem.code().message()});
+            continue;
         }
         std::sort(bundles.begin(), bundles.end());
         for (const auto& path : bundles) {
             try {
                 plugins_.push_back(std::make_unique<LoadedPlugin>(OpenBundle(path)));
+            } catch (const BundleError& problem) {
+                problems_.push_back({path, problem.Reason()});
             } catch (const std::exception& problem) {
                 problems_.push_back({path, problem.what()});
             }
@@ -61,9 +68,8 @@ ZMErr PluginManager::Start(LoadedPlugin& plugin) {
         result = plugin.Send(ZM_CALLER_PLUGIN, ZM_SELECTOR_STARTUP, startup);
     }
     if (result != ZM_ERR_NONE) {
-        problems_.push_back({plugin.bundle.folder, plugin.bundle.folder.string() +
-                                                       ": start-up failed with code " +
-                                                       ErrorText(result)});
+        problems_.push_back(
+            {plugin.bundle.folder, "start-up failed with code " + ErrorText(result)});
         Unload(plugin);
     }
     return result;

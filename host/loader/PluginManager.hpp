@@ -12,7 +12,7 @@ namespace zm::host {
 // A bundle the host skipped, and why.
 struct BundleProblem {
     std::filesystem::path bundle;
-    std::string message;  // names the bundle and the reason
+    std::string reason;
 };
 
 // The plug-ins of a host session and the message sequence they receive:

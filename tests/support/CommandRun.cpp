@@ -28,7 +28,8 @@ namespace {
 class CaptureFile {
 public:
     CaptureFile() {
-        std::string name = (std::filesystem::temp_directory_path() / "zelmora-capture-XXXXXX").string();
+        std::string name =
+            (std::filesystem::temp_directory_path() / "zelmora-capture-XXXXXX").string();
         fd_ = ::mkostemp(name.data(), O_CLOEXEC);
         if (fd_ < 0) {
             Fail("cannot create a capture file in " + name, errno);
@@ -69,15 +70,13 @@ class SpawnStreams {
 public:
     SpawnStreams(const CaptureFile& output, const CaptureFile& errors) {
         posix_spawn_file_actions_init(&actions_);
-        int error = posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null",
-                                                     O_RDONLY, 0);
+        int error =
+            posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
         if (error == 0) {
-            error = posix_spawn_file_actions_adddup2(&actions_, output.Descriptor(),
-                                                     STDOUT_FILENO);
+            error = posix_spawn_file_actions_adddup2(&actions_, output.Descriptor(), STDOUT_FILENO);
         }
         if (error == 0) {
-            error = posix_spawn_file_actions_adddup2(&actions_, errors.Descriptor(),
-                                                     STDERR_FILENO);
+            error = posix_spawn_file_actions_adddup2(&actions_, errors.Descriptor(), STDERR_FILENO);
         }
         if (error != 0) {
             posix_spawn_file_actions_destroy(&actions_);
@@ -135,8 +134,8 @@ CommandResult RunCommand(const std::filesystem::path& program,
     argv.push_back(nullptr);
 
     pid_t child = 0;
-    int error =
-        ::posix_spawn(&child, programName.c_str(), streams.Actions(), nullptr, argv.data(), environ);
+    int error = ::posix_spawn(&child, programName.c_str(), streams.Actions(), nullptr, argv.data(),
+                              environ);
     if (error != 0) {
         Fail("cannot start " + programName, error);
     }

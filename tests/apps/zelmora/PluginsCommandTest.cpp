@@ -147,6 +147,16 @@ TEST_F(PluginsCommandTest, ListsTheBuildBundleWhenNoFolderIsGiven) {
     EXPECT_EQ(run.errors, "");  // nothing skipped, no alert
 }
 
+TEST_F(PluginsCommandTest, ListsTheBuildBundleOnceWhenItsFolderIsGivenToo) {
+    // The same folder reached twice, once as given and once beside the command, must not
+    // list its bundles twice.
+    CommandResult run =
+        RunCommand(ZELMORA_TEST_COMMAND, {"--plugin-dir", ZELMORA_TEST_PLUGIN_DIR, "plugins"});
+    EXPECT_EQ(run.exitStatus, kExitDone);
+    EXPECT_EQ(run.output, OnlyTheBuildBundle());
+    EXPECT_EQ(run.errors, "");
+}
+
 TEST_F(PluginsCommandTest, SkipsABundleWhosePropertyListIsTruncated) {
     fs::path copy = CopyBundle("Broken");
     // 20 bytes: the 10-byte list header and part of the first property's 16-byte header.
