@@ -2,6 +2,8 @@
 
 #include "loader/TextFile.hpp"
 
+#include <cstdint>
+#include <span>
 #include <sstream>
 
 namespace zm::host {
@@ -45,8 +47,16 @@ PluginBundle OpenBundle(const std::filesystem::path& folder) {
     }
     PluginBundle bundle;
     bundle.folder = folder;
+    std::filesystem::path propertyList = folder / kPropertyListFile;
+    if (!std::filesystem::is_regular_file(propertyList)) {
+        throw fail(std::string("no property list ") + kPropertyListFile);
+    }
     try {
-        bundle.properties = ReadPropertyList(folder / kPropertyListFile);
+        std::string bytes = ReadTextFile(propertyList);
+        bundle.properties = ParsePropertyList(std::span<const std::uint8_t>(
+            reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()));
+    } catch (const PropertyListError& error) {
+        throw fail(std::string(kPropertyListFile) + ": " + error.what());
     } catch (const std::exception& error) {
         throw fail(error.what());
     }
