@@ -34,13 +34,15 @@ std::vector<std::filesystem::path> PluginFolders(const std::vector<std::filesyst
     return unique;
 }
 
-HostSession::HostSession(const std::vector<std::filesystem::path>& extraFolders,
-                         std::ostream& errors)
-    : errors_(errors) {
-    runtime_.plugins.Scan(PluginFolders(extraFolders));
+HostSession::HostSession(const SessionOptions& options, std::ostream& errors) : errors_(errors) {
+    if (options.failAllocation > 0) {
+        runtime_.faults.FailAllocation(options.failAllocation);
+    }
+    runtime_.plugins.Scan(PluginFolders(options.pluginFolders));
     runtime_.plugins.StartAll();
-    ReportProblems();
+    // An alert comes before the skip it caused, as it happened.
     ReportAlerts();
+    ReportProblems();
 }
 
 HostSession::~HostSession() { Finish(); }
@@ -51,8 +53,8 @@ void HostSession::Finish() {
     }
     finished_ = true;
     runtime_.plugins.StopAll();
-    ReportProblems();
     ReportAlerts();
+    ReportProblems();
 }
 
 void HostSession::ReportProblems() {

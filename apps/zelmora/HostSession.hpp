@@ -3,16 +3,23 @@
 #include <runtime/Runtime.hpp>
 
 #include <filesystem>
+#include <cstdint>
 #include <iosfwd>
 #include <vector>
 
 namespace zelmora {
 
+struct SessionOptions {
+    std::vector<std::filesystem::path> pluginFolders;  // searched before the defaults
+    // For tests of the error paths: the n-th block the host hands out (1 = the first) fails.
+    int64_t failAllocation = 0;
+};
+
 // One headless host session: the runtime, its plug-ins started from the plug-in folders,
 // and what the user must hear about on standard error (skipped bundles, alerts).
 class HostSession {
 public:
-    HostSession(const std::vector<std::filesystem::path>& extraFolders, std::ostream& errors);
+    HostSession(const SessionOptions& options, std::ostream& errors);
     ~HostSession();
     HostSession(const HostSession&) = delete;
     HostSession& operator=(const HostSession&) = delete;

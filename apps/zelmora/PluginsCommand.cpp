@@ -1,7 +1,6 @@
 #include "PluginsCommand.hpp"
 
 #include "ExitCodes.hpp"
-#include "HostSession.hpp"
 
 #include <fmt/format.h>
 #include <fmt/ostream.h>
@@ -11,9 +10,8 @@
 
 namespace zelmora {
 
-int RunPluginsCommand(const std::vector<std::filesystem::path>& extraFolders, std::ostream& out,
-                      std::ostream& errors) {
-    HostSession session(extraFolders, errors);
+int RunPluginsCommand(const SessionOptions& options, std::ostream& out, std::ostream& errors) {
+    HostSession session(options, errors);
     const auto& plugins = session.Runtime().plugins.Plugins();
     std::size_t nameWidth = 4;
     for (const auto& plugin : plugins) {

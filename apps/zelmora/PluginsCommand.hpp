@@ -1,13 +1,12 @@
 #pragma once
 
-#include <filesystem>
+#include "HostSession.hpp"
+
 #include <iosfwd>
-#include <vector>
 
 namespace zelmora {
 
 // `zelmora plugins`: loads every plug-in it finds and lists the ones that started.
-int RunPluginsCommand(const std::vector<std::filesystem::path>& extraFolders, std::ostream& out,
-                      std::ostream& errors);
+int RunPluginsCommand(const SessionOptions& options, std::ostream& out, std::ostream& errors);
 
 }  // namespace zelmora

@@ -1,4 +1,5 @@
 #include "ExitCodes.hpp"
+#include "HostSession.hpp"
 #include "PluginsCommand.hpp"
 
 #include <CLI/CLI.hpp>
@@ -12,9 +13,13 @@
 int main(int argc, char** argv) {
     CLI::App app{"zelmora: a headless Zelmora host session"};
     app.require_subcommand(1);
-    std::vector<std::filesystem::path> pluginFolders;
-    app.add_option("--plugin-dir", pluginFolders,
-                   "also look for plug-in bundles in this folder (repeatable)");
+    zelmora::SessionOptions session;
+    app.add_option("--plugin-dir", session.pluginFolders,
+                   "also look for plug-in bundles in this folder (repeatable)")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    // Not for users: lets tests reach a plug-in's out-of-memory path through the command.
+    app.add_option("--fail-allocation", session.failAllocation)->group("")->check(CLI::PositiveNumber);
 
     CLI::App* plugins = app.add_subcommand("plugins", "load the plug-ins and list them");
 
@@ -27,7 +32,7 @@ int main(int argc, char** argv) {
 
     try {
         if (plugins->parsed()) {
-            return zelmora::RunPluginsCommand(pluginFolders, std::cout, std::cerr);
+            return zelmora::RunPluginsCommand(session, std::cout, std::cerr);
         }
     } catch (const std::exception& error) {
         std::cerr << "zelmora: " << error.what() << "\n";

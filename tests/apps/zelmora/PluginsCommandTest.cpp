@@ -219,5 +219,22 @@ TEST_F(PluginsCommandTest, LoadsASecondGoodCopyBesideTheBuildBundle) {
     EXPECT_EQ(run.errors, "");  // neither plug-in raised an alert, nothing skipped
 }
 
+TEST_F(PluginsCommandTest, PrintsAnAlertRaisedAtStartUpInFullOnStandardError) {
+    // The first block the host hands out is Tolvane's globals block; failing it makes
+    // start-up raise the out-of-memory alert and fail, so the bundle is skipped.
+    CommandResult run = RunCommand(ZELMORA_TEST_COMMAND, {"--fail-allocation", "1", "plugins"});
+    EXPECT_EQ(run.exitStatus, kExitDone);
+    EXPECT_EQ(run.output, kHeader.substr(0, 4) + "  KIND  INTERFACE  BUNDLE\n");  // no plug-in
+    // The alert's kind, then its whole text as the plug-in built it (title and sentence,
+    // "\n\r", the detail line, two empty parts), then the skip it caused.
+    EXPECT_EQ(run.errors,
+              "zelmora: error alert:\n"
+              "Document Info Error:\r\r"
+              "The filter cannot complete because there isn^}t enough memory (RAM) available:"
+              "\r\r\n\rFilter error:!MEM  SetupGlobals:NewHandleClear\n\r\n\r\n" +
+                  std::string(kSkippedPrefix) + BuildBundle().string() +
+                  ": start-up failed with code '!MEM'\n");
+}
+
 }  // namespace
 }  // namespace zm::test
