@@ -1,8 +1,8 @@
 #include "loader/PropertyList.hpp"
 
 #include "loader/TextFile.hpp"
+#include "runtime/ErrorText.hpp"
 
-#include <cstdio>
 #include <map>
 #include <string_view>
 #include <vector>
@@ -40,19 +40,6 @@ std::string CodeString(std::uint32_t code) {
         text[i] = static_cast<char>(code >> (24 - 8 * i) & 0xFF);
     }
     return text;
-}
-
-// For messages: 'HVEA', or the number when a byte is not printable.
-std::string QuotedCode(std::uint32_t code) {
-    std::string text = CodeString(code);
-    for (char c : text) {
-        if (c < 0x20 || c > 0x7E) {
-            char hex[16];
-            std::snprintf(hex, sizeof hex, "0x%08X", static_cast<unsigned>(code));
-            return hex;
-        }
-    }
-    return "'" + text + "'";
 }
 
 std::uint32_t LoadU32(std::span<const std::uint8_t> bytes) {
@@ -180,7 +167,7 @@ std::string StringData(const KnownKey& known, std::span<const std::uint8_t> data
 void StoreKind(const KnownKey& known, std::span<const std::uint8_t> data, PropertyList& list) {
     std::uint32_t kind = FourByteData(known, data);
     if (kind != CodeValue(kKind)) {
-        throw PropertyListError("kind is " + QuotedCode(kind) + ", expected '" +
+        throw PropertyListError("kind is " + ErrorText(static_cast<ZMErr>(kind)) + ", expected '" +
                                 std::string(kKind) + "'");
     }
     list.kind = CodeString(kind);
@@ -222,12 +209,12 @@ PropertyList ParsePropertyList(std::span<const std::uint8_t> bytes) {
     for (const RawProperty& property : properties) {
         std::string which = "property " + std::to_string(property.number);
         if (property.vendor != CodeValue(kVendor)) {
-            throw PropertyListError(which + ": vendor " + QuotedCode(property.vendor) +
+            throw PropertyListError(which + ": vendor " + ErrorText(static_cast<ZMErr>(property.vendor)) +
                                     " is not '" + std::string(kVendor) + "'");
         }
         auto [it, inserted] = byKey.emplace(property.key, &property);
         if (!inserted) {
-            throw PropertyListError(which + ": duplicate key " + QuotedCode(property.key) +
+            throw PropertyListError(which + ": duplicate key " + ErrorText(static_cast<ZMErr>(property.key)) +
                                     ", first in property " + std::to_string(it->second->number));
         }
     }
