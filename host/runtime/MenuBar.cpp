@@ -21,26 +21,7 @@ MenuItem& MenuBar::Add(ZMPluginRef plugin, std::string group, std::string text,
     if (!IsKnownGroup(group)) {
         throw HostError(ZM_ERR_NOT_FOUND, "unknown menu group: " + group);
     }
-    items_.push_back(std::make_unique<MenuItem>(
-        MenuItem{plugin, std::move(group), std::move(text), options, false, true}));
-    return *items_.back();
-}
-
-MenuItem* MenuBar::Find(ZMMenuItemHandle handle) {
-    for (auto& item : items_) {
-        if (reinterpret_cast<ZMMenuItemHandle>(item.get()) == handle) {
-            return item.get();
-        }
-    }
-    return nullptr;
-}
-
-ZMMenuItemHandle MenuBar::HandleOf(const MenuItem& item) const {
-    return reinterpret_cast<ZMMenuItemHandle>(const_cast<MenuItem*>(&item));
-}
-
-void MenuBar::RemovePlugin(ZMPluginRef plugin) {
-    std::erase_if(items_, [plugin](const auto& item) { return item->plugin == plugin; });
+    return HandleList::Add(MenuItem{plugin, std::move(group), std::move(text), options, false, true});
 }
 
 }  // namespace zm::host

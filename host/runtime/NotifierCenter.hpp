@@ -1,8 +1,9 @@
 #pragma once
 
+#include "runtime/HandleList.hpp"
+
 #include <zelmora/ZMTypes.h>
 
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,18 +18,11 @@ struct Notifier {
 };
 
 // Who listens to which notifications.
-class NotifierCenter {
+class NotifierCenter : public HandleList<Notifier, ZMNotifierHandle> {
 public:
     Notifier& Add(ZMPluginRef plugin, std::string owner, std::string type);
-    Notifier* Find(ZMNotifierHandle handle);
-    ZMNotifierHandle HandleOf(const Notifier& notifier) const;
     // Active notifiers of that type, in the order they were added.
     std::vector<Notifier*> Subscribers(std::string_view type);
-    const std::vector<std::unique_ptr<Notifier>>& All() const { return notifiers_; }
-    void RemovePlugin(ZMPluginRef plugin);
-
-private:
-    std::vector<std::unique_ptr<Notifier>> notifiers_;
 };
 
 }  // namespace zm::host

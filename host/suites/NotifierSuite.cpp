@@ -7,14 +7,6 @@ namespace zm::host {
 
 namespace {
 
-Notifier& Find(Runtime& runtime, ZMNotifierHandle handle) {
-    Notifier* notifier = runtime.notifiers.Find(handle);
-    if (notifier == nullptr) {
-        throw HostError(ZM_ERR_BAD_ARGUMENT, "unknown notifier");
-    }
-    return *notifier;
-}
-
 ZMErr ZM_API AddNotifier(ZMPluginRef plugin, const char* owner, const char* type,
                          ZMNotifierHandle* notifier) {
     return GuardSuiteCall(ZM_NOTIFIER_SUITE_NAME, 0, [&](Runtime& runtime) {
@@ -28,21 +20,21 @@ ZMErr ZM_API AddNotifier(ZMPluginRef plugin, const char* owner, const char* type
 
 ZMErr ZM_API SetNotifierActive(ZMNotifierHandle notifier, int32_t active) {
     return GuardSuiteCall(ZM_NOTIFIER_SUITE_NAME, 1, [&](Runtime& runtime) {
-        Find(runtime, notifier).active = active != 0;
+        runtime.notifiers.Require(notifier).active = active != 0;
     });
 }
 
 ZMErr ZM_API IsNotifierActive(ZMNotifierHandle notifier, int32_t* active) {
     return GuardSuiteCall(ZM_NOTIFIER_SUITE_NAME, 2, [&](Runtime& runtime) {
         RequireArguments(active);
-        *active = Find(runtime, notifier).active ? 1 : 0;
+        *active = runtime.notifiers.Require(notifier).active ? 1 : 0;
     });
 }
 
 ZMErr ZM_API GetNotifierType(ZMNotifierHandle notifier, const char** type) {
     return GuardSuiteCall(ZM_NOTIFIER_SUITE_NAME, 3, [&](Runtime& runtime) {
         RequireArguments(type);
-        *type = Find(runtime, notifier).type.c_str();
+        *type = runtime.notifiers.Require(notifier).type.c_str();
     });
 }
 

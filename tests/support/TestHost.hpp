@@ -3,6 +3,8 @@
 #include <loader/LoadedPlugin.hpp>
 #include <runtime/Runtime.hpp>
 
+#include <gtest/gtest.h>
+
 #include <string>
 
 namespace zm::test {
@@ -21,6 +23,8 @@ public:
     ZMErr Stop();
     // The whole text of every alert so far, for messages.
     std::string AlertTexts() const;
+    // Success when every suite acquired so far was given back; else names those held.
+    ::testing::AssertionResult NoSuiteHeld() const;
 
 private:
     host::Runtime runtime_;

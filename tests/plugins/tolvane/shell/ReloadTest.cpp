@@ -62,7 +62,7 @@ TEST(ReloadTest, UnloadGivesBackEverySuiteAndReloadTakesThemAgain) {
     TestHost host;
     ASSERT_EQ(host.Start(), ZM_ERR_NONE);
     ASSERT_EQ(host.Runtime().plugins.Unload(host.Tolvane()), ZM_ERR_NONE);
-    EXPECT_TRUE(host.Runtime().suites.Outstanding().empty());
+    EXPECT_TRUE(host.NoSuiteHeld());
 
     ASSERT_EQ(host.Runtime().plugins.Reload(host.Tolvane()), ZM_ERR_NONE);
     const auto* art = host.Runtime().suites.Find("ZM Art Suite", 17);
@@ -76,7 +76,7 @@ TEST(ReloadTest, UnloadGivesBackEverySuiteAndReloadTakesThemAgain) {
     EXPECT_EQ(shapes->acquired - shapes->released, 1);
 
     ASSERT_EQ(host.Stop(), ZM_ERR_NONE);
-    EXPECT_TRUE(host.Runtime().suites.Outstanding().empty());
+    EXPECT_TRUE(host.NoSuiteHeld());
 }
 
 TEST(ReloadTest, TheFirstLoadIsNotTreatedAsAReload) {
@@ -98,7 +98,7 @@ TEST(ReloadTest, TheApplicationStartedNotifierTakesTheOptionalSuitesOnce) {
         host.Runtime().suites.Find(ZM_LIVE_SHAPES_SUITE_NAME, ZM_LIVE_SHAPES_SUITE_VERSION);
     EXPECT_EQ(shapes->acquired, 1);
     ASSERT_EQ(host.Stop(), ZM_ERR_NONE);
-    EXPECT_TRUE(host.Runtime().suites.Outstanding().empty());
+    EXPECT_TRUE(host.NoSuiteHeld());
 }
 
 }  // namespace
