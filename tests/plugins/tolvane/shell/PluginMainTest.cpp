@@ -106,4 +106,29 @@ TEST_F(PluginMainTest, TheFrameworkSuiteIsGivenBackAfterEveryMessage) {
     EXPECT_EQ(framework->acquired, framework->released);
 }
 
+TEST_F(PluginMainTest, TheMenuItemsCommandReachesThePlugIn) {
+    ASSERT_EQ(host.Runtime().menus.Items().size(), 1u);
+    ZMMenuItemHandle item = host.Runtime().menus.HandleOf(*host.Runtime().menus.Items()[0]);
+    EXPECT_EQ(host.Runtime().plugins.RunMenuItem(item), ZM_ERR_NONE);
+    const auto& last = host.Runtime().dispatches.back();
+    EXPECT_EQ(last.caller, "ZM Menu");
+    EXPECT_EQ(last.selector, "Go Menu Item");
+    EXPECT_TRUE(last.signatureValid);
+}
+
+TEST_F(PluginMainTest, AMenuItemNoPlugInOwnsReachesNobody) {
+    std::size_t before = host.Runtime().dispatches.size();
+    EXPECT_EQ(host.Runtime().plugins.RunMenuItem(nullptr), ZM_ERR_NOT_FOUND);
+    EXPECT_EQ(host.Runtime().dispatches.size(), before);
+}
+
+TEST_F(PluginMainTest, ANotificationReachesThePlugInOnlyForTypesItSubscribed) {
+    std::size_t before = host.Runtime().dispatches.size();
+    host.Runtime().plugins.Notify("ZM Document Opened Notifier", nullptr);
+    ASSERT_EQ(host.Runtime().dispatches.size(), before + 1);
+    EXPECT_EQ(host.Runtime().dispatches.back().selector, "Notify");
+    host.Runtime().plugins.Notify("ZM Swatch Library Changed Notifier", nullptr);
+    EXPECT_EQ(host.Runtime().dispatches.size(), before + 1);
+}
+
 }  // namespace
