@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace zm::host::document {
+
+// The host's numeric art-type codes, as the art suite reports them.
+enum class ArtType : int16_t {
+    Unknown = 0,
+    Group = 1,
+    Path = 2,
+    CompoundPath = 3,
+    Placed = 7,
+    Raster = 9,
+    PluginGroup = 10,
+    Mesh = 11,
+    TextFrame = 12,
+    SymbolInstance = 13,
+    ForeignObject = 14,
+    Chart = 16,
+};
+
+// Attribute bits.
+inline constexpr uint32_t kArtSelected = 1u << 0;
+inline constexpr uint32_t kArtCompoundMember = 1u << 14;  // 0x4000
+
+// One object of the art tree. Children are a group's or a compound path's members; a plug-in
+// group holds exactly one child, its result group, whose children are what the plug-in made.
+// Definitions (symbols, patterns, masks, clip path sources) live outside the tree.
+class Art {
+public:
+    explicit Art(ArtType type, std::string id = {}) : type_(type), id_(std::move(id)) {}
+    Art(const Art&) = delete;
+    Art& operator=(const Art&) = delete;
+
+    ArtType Type() const { return type_; }
+    const std::string& Id() const { return id_; }
+    uint32_t Attributes() const { return attributes_; }
+    Art* Parent() const { return parent_; }
+    const std::vector<std::unique_ptr<Art>>& Children() const { return children_; }
+
+    // Adopts child as the last member; a compound path's members carry kArtCompoundMember.
+    Art& Add(std::unique_ptr<Art> child);
+    // The result group of a plug-in group, made on first use.
+    Art& ResultGroup();
+
+    // Selecting an object selects everything it holds, as selecting a group does on screen.
+    void SetSelected(bool selected);
+    bool IsSelected() const { return (attributes_ & kArtSelected) != 0; }
+
+private:
+    ArtType type_;
+    std::string id_;
+    uint32_t attributes_ = 0;
+    Art* parent_ = nullptr;
+    std::vector<std::unique_ptr<Art>> children_;
+};
+
+// A layer is a named top-level group.
+struct Layer {
+    std::string name;
+    std::unique_ptr<Art> root = std::make_unique<Art>(ArtType::Group);
+};
+
+}  // namespace zm::host::document
