@@ -3,7 +3,10 @@
 
 #include <zelmora/PXMBasicSuite.h>
 
+#include <cstdint>
 #include <cstring>
+#include <limits>
+#include <optional>
 #include <string>
 
 namespace zm::host {
@@ -18,7 +21,11 @@ std::string_view FindKey(Runtime& runtime, ZMPluginRef plugin, int32_t listId, i
     if (index < 1) {
         throw HostError(ZM_ERR_NOT_FOUND, "string indexes start at 1");
     }
-    auto key = loaded->bundle.strings.Find(listId + index);
+    // Summed wide: past the largest id there is no string, not a wrap to the lowest ones.
+    int64_t id = int64_t{listId} + index;
+    auto key = id > std::numeric_limits<int32_t>::max()
+                   ? std::nullopt
+                   : loaded->bundle.strings.Find(static_cast<int32_t>(id));
     if (!key) {
         throw HostError(ZM_ERR_NOT_FOUND, "no such string");
     }
