@@ -6,31 +6,31 @@ namespace zm::host::document {
 
 namespace {
 
-void Collect(Art& art, std::span<const MatchSpecification> specifications,
+void Collect(Art& art, std::span<const MatchCriterion> criteria,
              std::vector<Art*>& matches) {
-    if (std::any_of(specifications.begin(), specifications.end(),
-                    [&](const MatchSpecification& s) { return Fits(art, s); })) {
+    if (std::any_of(criteria.begin(), criteria.end(),
+                    [&](const MatchCriterion& c) { return Fits(art, c); })) {
         matches.push_back(&art);
     }
     for (const auto& child : art.Children()) {
-        Collect(*child, specifications, matches);
+        Collect(*child, criteria, matches);
     }
 }
 
 }  // namespace
 
-bool Fits(const Art& art, const MatchSpecification& specification) {
-    bool typeFits = specification.type == -1 ||
-                    specification.type == static_cast<int16_t>(art.Type());
-    return typeFits && (art.Attributes() & specification.mask) == specification.value;
+bool Fits(const Art& art, const MatchCriterion& criterion) {
+    bool typeFits = criterion.type == -1 ||
+                    criterion.type == static_cast<int16_t>(art.Type());
+    return typeFits && (art.Attributes() & criterion.mask) == criterion.value;
 }
 
 std::vector<Art*> MatchArt(std::span<Layer* const> layers,
-                           std::span<const MatchSpecification> specifications) {
+                           std::span<const MatchCriterion> criteria) {
     std::vector<Art*> matches;
     for (Layer* layer : layers) {
         for (const auto& child : layer->root->Children()) {
-            Collect(*child, specifications, matches);
+            Collect(*child, criteria, matches);
         }
     }
     return matches;

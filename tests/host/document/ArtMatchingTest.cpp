@@ -39,9 +39,9 @@ protected:
         second.root->Add(Make(ArtType::Path, "p2"));
     }
 
-    std::vector<std::string> Match(std::vector<MatchSpecification> specifications) {
+    std::vector<std::string> Match(std::vector<MatchCriterion> criteria) {
         std::vector<Layer*> layers = {&first, &second};
-        return Ids(MatchArt(layers, specifications));
+        return Ids(MatchArt(layers, criteria));
     }
 
     Layer first{"Layer 1"};
@@ -60,10 +60,10 @@ TEST_F(ArtMatchingTest, ATypeSelectsOnlyThatType) {
 }
 
 TEST_F(ArtMatchingTest, SeveralSpecificationsReturnEachObjectOnce) {
-    MatchSpecification text{static_cast<int16_t>(ArtType::TextFrame), 0, 0};
-    MatchSpecification any{-1, 0, 0};
+    MatchCriterion text{static_cast<int16_t>(ArtType::TextFrame), 0, 0};
+    MatchCriterion any{-1, 0, 0};
     EXPECT_EQ(Match({text, any}).size(), 10u);
-    MatchSpecification group{static_cast<int16_t>(ArtType::Group), 0, 0};
+    MatchCriterion group{static_cast<int16_t>(ArtType::Group), 0, 0};
     EXPECT_EQ(Match({text, group}), (std::vector<std::string>{"g", "t", ""}));
 }
 
@@ -82,7 +82,7 @@ TEST_F(ArtMatchingTest, CompoundPathMembersCarryTheMemberBit) {
 
 TEST_F(ArtMatchingTest, NoLayersMatchNothing) {
     std::vector<Layer*> none;
-    std::vector<MatchSpecification> any = {{-1, 0, 0}};
+    std::vector<MatchCriterion> any = {{-1, 0, 0}};
     EXPECT_TRUE(MatchArt(none, any).empty());
 }
 
