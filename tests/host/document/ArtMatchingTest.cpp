@@ -59,7 +59,7 @@ TEST_F(ArtMatchingTest, ATypeSelectsOnlyThatType) {
               (std::vector<std::string>{"p1", "c1", "c2", "b1", "p2"}));
 }
 
-TEST_F(ArtMatchingTest, SeveralSpecificationsReturnEachObjectOnce) {
+TEST_F(ArtMatchingTest, SeveralCriteriaReturnEachObjectOnce) {
     MatchCriterion text{static_cast<int16_t>(ArtType::TextFrame), 0, 0};
     MatchCriterion any{-1, 0, 0};
     EXPECT_EQ(Match({text, any}).size(), 10u);
