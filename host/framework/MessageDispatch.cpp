@@ -83,12 +83,12 @@ Declarations Read(const Delivery& delivery) {
 }
 
 // On failure the rows already acquired are given back, so nothing is half held.
-void AcquireDeclaredSuites(const Delivery& delivery) {
+void AcquireDeclaredSuites(const Delivery& delivery, const Declarations& declarations) {
     FrameworkState& state = delivery.plugin.framework;
     if (state.heldSuites != nullptr) {
         return;
     }
-    const ZMSuiteDeclaration* suites = Read(delivery).suites;
+    const ZMSuiteDeclaration* suites = declarations.suites;
     if (suites == nullptr) {
         return;
     }
@@ -122,8 +122,7 @@ void ReleaseDeclaredSuites(const Delivery& delivery) {
 }
 
 // Menu items and notifiers of the declarations, each answered by its registration result.
-ZMErr RegisterDeclarations(const Delivery& delivery) {
-    Declarations declarations = Read(delivery);
+ZMErr RegisterDeclarations(const Delivery& delivery, const Declarations& declarations) {
     Runtime& runtime = delivery.runtime;
     ZMPluginRef ref = delivery.plugin.Ref();
     if (!declarations.menuItems.empty()) {
@@ -171,7 +170,7 @@ ZMErr OnReload(const Delivery& delivery) {
     if (delivery.message.globals == nullptr) {
         return ZM_ERR_NONE;
     }
-    AcquireDeclaredSuites(delivery);
+    AcquireDeclaredSuites(delivery, Read(delivery));
     return CallHandler(delivery, ZM_CODE_RELOAD);
 }
 
@@ -182,11 +181,12 @@ ZMErr OnUnload(const Delivery& delivery) {
 }
 
 ZMErr OnStartup(const Delivery& delivery) {
-    AcquireDeclaredSuites(delivery);
+    Declarations declarations = Read(delivery);
+    AcquireDeclaredSuites(delivery, declarations);
     if (ZMErr error = CallHandler(delivery, ZM_CODE_STARTUP); error != ZM_ERR_NONE) {
         return error;
     }
-    return RegisterDeclarations(delivery);
+    return RegisterDeclarations(delivery, declarations);
 }
 
 ZMErr OnShutdown(const Delivery& delivery) {

@@ -97,9 +97,7 @@ ZMErr PluginManager::Stop(LoadedPlugin& plugin) {
     ZMMessageRecord shutdown{};
     ZMErr result = plugin.Send(ZM_CALLER_PLUGIN, ZM_SELECTOR_SHUTDOWN, shutdown);
     ZMErr unload = Unload(plugin);
-    Runtime& runtime = Runtime::Current();
-    runtime.menus.RemovePlugin(plugin.Ref());
-    runtime.notifiers.RemovePlugin(plugin.Ref());
+    ForgetRegistrations(plugin);
     return result != ZM_ERR_NONE ? result : unload;
 }
 
@@ -193,10 +191,14 @@ LoadedPlugin* PluginManager::FindByName(const std::string& name) {
     return nullptr;
 }
 
-void PluginManager::Remove(LoadedPlugin& plugin) {
+void PluginManager::ForgetRegistrations(LoadedPlugin& plugin) {
     Runtime& runtime = Runtime::Current();
     runtime.menus.RemovePlugin(plugin.Ref());
     runtime.notifiers.RemovePlugin(plugin.Ref());
+}
+
+void PluginManager::Remove(LoadedPlugin& plugin) {
+    ForgetRegistrations(plugin);
     std::erase_if(plugins_, [&](const auto& p) { return p.get() == &plugin; });
 }
 

@@ -60,6 +60,8 @@ public:
 
 private:
     ZMErr LoadCode(LoadedPlugin& plugin);
+    // Its menu items and notifiers go with it.
+    void ForgetRegistrations(LoadedPlugin& plugin);
     void Remove(LoadedPlugin& plugin);
 
     std::vector<std::unique_ptr<LoadedPlugin>> plugins_;

@@ -4,28 +4,22 @@
 
 namespace zm::host {
 
-namespace {
-std::pair<std::string, int32_t> Key(std::string_view name, int32_t version) {
-    return {std::string(name), version};
-}
-}  // namespace
-
 void SuiteRegistry::Add(std::string name, int32_t version, const void* table) {
-    auto key = Key(name, version);
-    if (rows_.count(key) != 0) {
+    if (rows_.count(SuiteKey(name, version)) != 0) {
         throw std::logic_error("suite registered twice: " + name + " version " +
                                std::to_string(version));
     }
+    std::pair<std::string, int32_t> key{name, version};
     rows_.emplace(std::move(key), Row{std::move(name), version, table, 0, 0});
 }
 
 SuiteRegistry::Row* SuiteRegistry::FindRow(std::string_view name, int32_t version) {
-    auto it = rows_.find(Key(name, version));
+    auto it = rows_.find(SuiteKey(name, version));
     return it == rows_.end() ? nullptr : &it->second;
 }
 
 const SuiteRegistry::Row* SuiteRegistry::Find(std::string_view name, int32_t version) const {
-    auto it = rows_.find(Key(name, version));
+    auto it = rows_.find(SuiteKey(name, version));
     return it == rows_.end() ? nullptr : &it->second;
 }
 
@@ -33,7 +27,7 @@ ZMErr SuiteRegistry::Acquire(std::string_view name, int32_t version, const void*
     if (table == nullptr) {
         return ZM_ERR_BAD_ARGUMENT;
     }
-    auto failure = failures_.find(Key(name, version));
+    auto failure = failures_.find(SuiteKey(name, version));
     if (failure != failures_.end()) {
         return failure->second;
     }
@@ -60,9 +54,11 @@ ZMErr SuiteRegistry::Release(std::string_view name, int32_t version) {
 
 void SuiteRegistry::FailAcquisition(std::string_view name, int32_t version, ZMErr code) {
     if (code == ZM_ERR_NONE) {
-        failures_.erase(Key(name, version));
+        if (auto it = failures_.find(SuiteKey(name, version)); it != failures_.end()) {
+            failures_.erase(it);
+        }
     } else {
-        failures_[Key(name, version)] = code;
+        failures_[{std::string(name), version}] = code;
     }
 }
 

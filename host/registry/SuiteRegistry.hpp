@@ -1,9 +1,10 @@
 #pragma once
 
+#include "registry/SuiteKey.hpp"
+
 #include <zelmora/ZMTypes.h>
 
 #include <cstdint>
-#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -39,14 +40,14 @@ public:
     const Row* Find(std::string_view name, int32_t version) const;
     // Rows acquired more often than released, in name order.
     std::vector<const Row*> Outstanding() const;
-    const std::map<std::pair<std::string, int32_t>, Row, std::less<>>& Rows() const { return rows_; }
+    const SuiteKeyMap<Row>& Rows() const { return rows_; }
     void ResetCounts();
 
 private:
     Row* FindRow(std::string_view name, int32_t version);
 
-    std::map<std::pair<std::string, int32_t>, Row, std::less<>> rows_;
-    std::map<std::pair<std::string, int32_t>, ZMErr, std::less<>> failures_;
+    SuiteKeyMap<Row> rows_;
+    SuiteKeyMap<ZMErr> failures_;
 };
 
 }  // namespace zm::host

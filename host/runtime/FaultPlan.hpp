@@ -1,5 +1,7 @@
 #pragma once
 
+#include "registry/SuiteKey.hpp"
+
 #include <zelmora/ZMTypes.h>
 
 #include <cstdint>
@@ -27,7 +29,7 @@ public:
 
 private:
     int64_t allocationsUntilFailure_ = 0;  // 0: no allocation failure planned
-    std::map<std::pair<std::string, int32_t>, ZMErr, std::less<>> calls_;
+    SuiteKeyMap<ZMErr> calls_;
 };
 
 }  // namespace zm::host
