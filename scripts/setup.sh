@@ -7,6 +7,7 @@ cd "$(dirname "$0")/.."
 packages=(
     cmake ninja-build g++ pkg-config
     libicu-dev libpugixml-dev libfmt-dev libcli11-dev libboost-dev
+    liblcms2-dev
     libgtest-dev libgmock-dev libbenchmark-dev
 )
 missing=()

@@ -1,11 +1,19 @@
 #pragma once
 
+#include "document/ArtContent.hpp"
+#include "document/Geometry.hpp"
+#include "document/Paint.hpp"
+
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace zm::host::document {
+
+struct GraphicStyle;
+struct Symbol;
 
 // The host's numeric art-type codes, as the art suite reports them.
 enum class ArtType : int16_t {
@@ -50,6 +58,26 @@ public:
     // Selecting an object selects everything it holds, as selecting a group does on screen.
     void SetSelected(bool selected);
     bool IsSelected() const { return (attributes_ & kArtSelected) != 0; }
+
+    // What the object is and how it looks. Which members matter depends on the type; the
+    // others keep their defaults.
+    std::string name;                      // label or id, for people
+    PathGeometry path;                     // a path's one subpath
+    PathStyle style;                       // fill, stroke and clip flag of paths and meshes
+    BlendStyle blend;
+    GraphicStyle* graphicStyle = nullptr;  // null: an anonymous style
+    std::unique_ptr<Art> opacityMask;      // the mask art (a group), outside the layers
+    bool clipGroup = false;                // a group whose clipping paths clip the rest
+    std::string pluginName;                // the plug-in that made a plug-in group
+    bool graph = false;                    // unknown art that is a graph
+    std::unique_ptr<TextFrame> text;       // a text frame's content
+    std::unique_ptr<Image> image;          // placed and raster art
+    Symbol* symbol = nullptr;              // the symbol a symbol instance shows
+    std::vector<Color> meshColors;         // a mesh's colours, in order
+    std::unique_ptr<ForeignContent> foreign;
+    std::optional<LiveShape> liveShape;
+    // Bounds of art without path geometry of its own (images, text, foreign objects).
+    std::optional<Rect> bounds;
 
 private:
     ArtType type_;

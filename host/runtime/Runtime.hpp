@@ -6,6 +6,7 @@
 #include "runtime/AlertLog.hpp"
 #include "runtime/BlockAllocator.hpp"
 #include "runtime/ContextStack.hpp"
+#include "runtime/DocumentList.hpp"
 #include "runtime/FaultPlan.hpp"
 #include "runtime/MenuBar.hpp"
 #include "runtime/NotifierCenter.hpp"
@@ -44,6 +45,7 @@ public:
     NotifierCenter notifiers;
     Localizer localizer;
     std::vector<DispatchRecord> dispatches;
+    DocumentList documents;
     // Last, so that plug-ins still loaded are stopped while everything else still exists.
     PluginManager plugins;
 };

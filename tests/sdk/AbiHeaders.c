@@ -21,6 +21,7 @@
 #include <zelmora/ZMARMSuite.h>
 #include <zelmora/ZMArtStyleSuite.h>
 #include <zelmora/ZMArtSuite.h>
+#include <zelmora/ZMArtTypes.h>
 #include <zelmora/ZMArtboardSuite.h>
 #include <zelmora/ZMBasicSuite.h>
 #include <zelmora/ZMBlendStyleSuite.h>

@@ -22,6 +22,7 @@
 #include <zelmora/ZMARMSuite.h>
 #include <zelmora/ZMArtStyleSuite.h>
 #include <zelmora/ZMArtSuite.h>
+#include <zelmora/ZMArtTypes.h>
 #include <zelmora/ZMArtboardSuite.h>
 #include <zelmora/ZMBasicSuite.h>
 #include <zelmora/ZMBlendStyleSuite.h>
@@ -90,6 +91,12 @@ static_assert(offsetof(ZMMessageRecord, self) == 8);
 static_assert(offsetof(ZMMessageRecord, globals) == 16);
 static_assert(offsetof(ZMMessageRecord, basicSuite) == 24);
 static_assert(sizeof(ZMMessageRecord) == 32);
+
+// Records the art suites share: a colour is its kind and a union of doubles or handles.
+static_assert(sizeof(ZMColor) == 40);
+static_assert(offsetof(ZMColor, c) == 8);
+static_assert(sizeof(ZMPathSegment) == 56);
+static_assert(offsetof(ZMPathStyle, fill) == 8);
 
 static_assert(offsetof(ZMNotifierMessage, notifier) == 32);
 static_assert(offsetof(ZMNotifierMessage, type) == 40);

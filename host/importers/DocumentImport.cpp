@@ -1,0 +1,46 @@
+#include "importers/DocumentImport.hpp"
+
+#include "importers/svg/SvgImporter.hpp"
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string>
+
+namespace zm::host {
+
+namespace {
+
+std::string ReadWholeFile(const std::filesystem::path& file) {
+    std::error_code error;
+    if (std::filesystem::is_directory(file, error)) {
+        throw DocumentOpenError(file, "it is a folder, not a document");
+    }
+    std::ifstream in(file, std::ios::binary);
+    if (!in) {
+        throw DocumentOpenError(file, std::strerror(errno));
+    }
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    if (in.bad()) {
+        throw DocumentOpenError(file, "the file could not be read");
+    }
+    return std::move(bytes).str();
+}
+
+}  // namespace
+
+std::unique_ptr<document::Document> ImportDocument(const std::filesystem::path& file) {
+    std::string bytes = ReadWholeFile(file);
+    if (bytes.empty()) {
+        throw DocumentOpenError(file, "the file is empty");
+    }
+    if (bytes.starts_with("%PDF-")) {
+        throw DocumentOpenError(file, "PDF documents cannot be opened by this host yet");
+    }
+    return ImportSvgText(bytes, file);
+}
+
+}  // namespace zm::host
