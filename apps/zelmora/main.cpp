@@ -1,3 +1,4 @@
+#include "DocInfoCommand.hpp"
 #include "ExitCodes.hpp"
 #include "HostSession.hpp"
 #include "PluginsCommand.hpp"
@@ -23,6 +24,11 @@ int main(int argc, char** argv) {
 
     CLI::App* plugins = app.add_subcommand("plugins", "load the plug-ins and list them");
 
+    zelmora::DocInfoOptions docInfo;
+    CLI::App* docinfo =
+        app.add_subcommand("docinfo", "open a document and survey it with the Tolvane panel");
+    docinfo->add_option("FILE", docInfo.file, "the document (SVG)")->required();
+
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -33,6 +39,9 @@ int main(int argc, char** argv) {
     try {
         if (plugins->parsed()) {
             return zelmora::RunPluginsCommand(session, std::cout, std::cerr);
+        }
+        if (docinfo->parsed()) {
+            return zelmora::RunDocInfoCommand(session, docInfo, std::cout, std::cerr);
         }
     } catch (const std::exception& error) {
         std::cerr << "zelmora: " << error.what() << "\n";

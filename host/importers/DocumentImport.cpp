@@ -8,6 +8,7 @@
 #include <iterator>
 #include <sstream>
 #include <string>
+#include <string_view>
 
 namespace zm::host {
 
@@ -39,6 +40,16 @@ std::unique_ptr<document::Document> ImportDocument(const std::filesystem::path& 
     }
     if (bytes.starts_with("%PDF-")) {
         throw DocumentOpenError(file, "PDF documents cannot be opened by this host yet");
+    }
+    // XML text starts with its markup, perhaps after a byte-order mark and blanks; anything
+    // else (an image, a word-processor file) is not worth handing to the XML parser.
+    std::string_view text(bytes);
+    if (text.starts_with("\xEF\xBB\xBF")) {
+        text.remove_prefix(3);
+    }
+    std::size_t first = text.find_first_not_of(" \t\r\n");
+    if (first == std::string_view::npos || text[first] != '<') {
+        throw DocumentOpenError(file, "not an SVG document (the file is not XML text)");
     }
     return ImportSvgText(bytes, file);
 }
