@@ -80,7 +80,6 @@ struct PendingSuiteTable {
 // The required suites in the order plug-ins declare them, then the optional ones. Suites with
 // a function table of their own register from their own files and are not listed here.
 constexpr PendingSuiteTable kPendingSuites[] = {
-    ZM_SUITE_ROW(ZM_ART_SUITE),
     ZM_SUITE_ROW(ZM_ARTBOARD_SUITE),
     ZM_SUITE_ROW(ZM_ART_STYLE_SUITE),
     ZM_SUITE_ROW(ZM_ART_STYLE_PARSER_SUITE),
@@ -97,12 +96,8 @@ constexpr PendingSuiteTable kPendingSuites[] = {
     ZM_SUITE_ROW(ZM_FONT_GLUE_SUITE),
     ZM_SUITE_ROW(ZM_GRADIENT_SUITE),
     ZM_SUITE_ROW(ZM_GRAPH_SUITE),
-    ZM_SUITE_ROW(ZM_LAYER_SUITE),
-    ZM_SUITE_ROW(ZM_LAYER_LIST_SUITE),
     ZM_SUITE_ROW(ZM_LIVE_EFFECT_SUITE),
     ZM_SUITE_ROW(ZM_MASK_SUITE),
-    ZM_SUITE_ROW(ZM_MATCHING_ART_SUITE),
-    ZM_SUITE_ROW(ZM_MD_MEMORY_SUITE),
     ZM_SUITE_ROW(ZM_MESH_SUITE),
     ZM_SUITE_ROW(ZM_OVERRIDE_COLOR_CONVERSION_SUITE),
     ZM_SUITE_ROW(ZM_PATH_SUITE),

@@ -12,6 +12,11 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterMenuSuite(registry);
     RegisterNotifierSuite(registry);
     RegisterUnicodeStringSuite(registry);
+    RegisterArtSuite(registry);
+    RegisterLayerSuite(registry);
+    RegisterLayerListSuite(registry);
+    RegisterMdMemorySuite(registry);
+    RegisterMatchingArtSuite(registry);
     RegisterPendingSuites(registry);
 }
 

@@ -12,6 +12,11 @@ void RegisterUserSuite(SuiteRegistry& registry);
 void RegisterMenuSuite(SuiteRegistry& registry);
 void RegisterNotifierSuite(SuiteRegistry& registry);
 void RegisterUnicodeStringSuite(SuiteRegistry& registry);
+void RegisterArtSuite(SuiteRegistry& registry);
+void RegisterLayerSuite(SuiteRegistry& registry);
+void RegisterLayerListSuite(SuiteRegistry& registry);
+void RegisterMdMemorySuite(SuiteRegistry& registry);
+void RegisterMatchingArtSuite(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host
