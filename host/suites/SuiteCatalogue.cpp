@@ -17,6 +17,18 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterLayerListSuite(registry);
     RegisterMdMemorySuite(registry);
     RegisterMatchingArtSuite(registry);
+    RegisterPathSuite(registry);
+    RegisterPathStyleSuite(registry);
+    RegisterMaskSuite(registry);
+    RegisterPluginGroupSuite(registry);
+    RegisterHVPluginsSuite(registry);
+    RegisterSymbolSuite(registry);
+    RegisterMeshSuite(registry);
+    RegisterGraphSuite(registry);
+    RegisterLiveShapesSuite(registry);
+    RegisterLiveCornersSuite(registry);
+    RegisterRealMathSuite(registry);
+    RegisterVectorizeSuite(registry);
     RegisterPendingSuites(registry);
 }
 
