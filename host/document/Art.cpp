@@ -1,8 +1,28 @@
 #include "document/Art.hpp"
 
 #include <stdexcept>
+#include <unordered_set>
 
 namespace zm::host::document {
+
+namespace {
+
+std::unordered_set<const void*>& LiveArt() {
+    static std::unordered_set<const void*> live;
+    return live;
+}
+
+}  // namespace
+
+Art::Art(ArtType type, std::string id) : type_(type), id_(std::move(id)) {
+    LiveArt().insert(this);
+}
+
+Art::~Art() { LiveArt().erase(this); }
+
+bool Art::IsLive(const void* address) {
+    return address != nullptr && LiveArt().count(address) != 0;
+}
 
 Art& Art::Add(std::unique_ptr<Art> child) {
     if (!child) {

@@ -40,7 +40,8 @@ inline constexpr uint32_t kArtCompoundMember = 1u << 14;  // 0x4000
 // Definitions (symbols, patterns, masks, clip path sources) live outside the tree.
 class Art {
 public:
-    explicit Art(ArtType type, std::string id = {}) : type_(type), id_(std::move(id)) {}
+    explicit Art(ArtType type, std::string id = {});
+    ~Art();
     Art(const Art&) = delete;
     Art& operator=(const Art&) = delete;
 
@@ -49,6 +50,10 @@ public:
     uint32_t Attributes() const { return attributes_; }
     Art* Parent() const { return parent_; }
     const std::vector<std::unique_ptr<Art>>& Children() const { return children_; }
+
+    // Whether an art object lives at this address. Handles that plug-ins hand back are only
+    // addresses; this lets the host refuse one that names no art instead of reading through it.
+    static bool IsLive(const void* address);
 
     // Adopts child as the last member; a compound path's members carry kArtCompoundMember.
     Art& Add(std::unique_ptr<Art> child);

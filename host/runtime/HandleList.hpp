@@ -11,7 +11,7 @@
 namespace zm::host {
 
 // Objects a plug-in holds by opaque handle: the handle is the object's address, which stays
-// put while the object lives. Item must have a `plugin` field naming its owner.
+// put while the object lives. RemovePlugin needs a `plugin` field in Item naming its owner.
 template <typename Item, typename Handle>
 class HandleList {
 public:
@@ -41,6 +41,12 @@ public:
 
     Handle HandleOf(const Item& item) const {
         return reinterpret_cast<Handle>(const_cast<Item*>(&item));
+    }
+
+    // Throws HostError(ZM_ERR_BAD_ARGUMENT) for a handle this list did not make.
+    void Remove(Handle handle) {
+        Require(handle);
+        std::erase_if(items_, [&](const auto& item) { return HandleOf(*item) == handle; });
     }
 
     void RemovePlugin(ZMPluginRef plugin) {

@@ -8,7 +8,11 @@
 #include "runtime/ContextStack.hpp"
 #include "runtime/DocumentList.hpp"
 #include "runtime/FaultPlan.hpp"
+#include "runtime/LiveCornersObjects.hpp"
+#include "runtime/MaskReferences.hpp"
+#include "runtime/MemoryHandles.hpp"
 #include "runtime/MenuBar.hpp"
+#include "runtime/NamedPlugins.hpp"
 #include "runtime/NotifierCenter.hpp"
 
 #include <string>
@@ -46,6 +50,10 @@ public:
     Localizer localizer;
     std::vector<DispatchRecord> dispatches;
     DocumentList documents;
+    MemoryHandles memory{faults};
+    MaskReferences masks;
+    NamedPlugins namedPlugins;
+    LiveCornersObjects liveCorners;
     // Last, so that plug-ins still loaded are stopped while everything else still exists.
     PluginManager plugins;
 };

@@ -12,6 +12,23 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterMenuSuite(registry);
     RegisterNotifierSuite(registry);
     RegisterUnicodeStringSuite(registry);
+    RegisterArtSuite(registry);
+    RegisterLayerSuite(registry);
+    RegisterLayerListSuite(registry);
+    RegisterMdMemorySuite(registry);
+    RegisterMatchingArtSuite(registry);
+    RegisterPathSuite(registry);
+    RegisterPathStyleSuite(registry);
+    RegisterMaskSuite(registry);
+    RegisterPluginGroupSuite(registry);
+    RegisterHVPluginsSuite(registry);
+    RegisterSymbolSuite(registry);
+    RegisterMeshSuite(registry);
+    RegisterGraphSuite(registry);
+    RegisterLiveShapesSuite(registry);
+    RegisterLiveCornersSuite(registry);
+    RegisterRealMathSuite(registry);
+    RegisterVectorizeSuite(registry);
     RegisterPendingSuites(registry);
 }
 

@@ -12,6 +12,23 @@ void RegisterUserSuite(SuiteRegistry& registry);
 void RegisterMenuSuite(SuiteRegistry& registry);
 void RegisterNotifierSuite(SuiteRegistry& registry);
 void RegisterUnicodeStringSuite(SuiteRegistry& registry);
+void RegisterArtSuite(SuiteRegistry& registry);
+void RegisterLayerSuite(SuiteRegistry& registry);
+void RegisterLayerListSuite(SuiteRegistry& registry);
+void RegisterMdMemorySuite(SuiteRegistry& registry);
+void RegisterMatchingArtSuite(SuiteRegistry& registry);
+void RegisterPathSuite(SuiteRegistry& registry);
+void RegisterPathStyleSuite(SuiteRegistry& registry);
+void RegisterMaskSuite(SuiteRegistry& registry);
+void RegisterPluginGroupSuite(SuiteRegistry& registry);
+void RegisterHVPluginsSuite(SuiteRegistry& registry);
+void RegisterSymbolSuite(SuiteRegistry& registry);
+void RegisterMeshSuite(SuiteRegistry& registry);
+void RegisterGraphSuite(SuiteRegistry& registry);
+void RegisterLiveShapesSuite(SuiteRegistry& registry);
+void RegisterLiveCornersSuite(SuiteRegistry& registry);
+void RegisterRealMathSuite(SuiteRegistry& registry);
+void RegisterVectorizeSuite(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host

@@ -97,6 +97,10 @@ static_assert(sizeof(ZMColor) == 40);
 static_assert(offsetof(ZMColor, c) == 8);
 static_assert(sizeof(ZMPathSegment) == 56);
 static_assert(offsetof(ZMPathStyle, fill) == 8);
+// A matching criterion is built by hand on the plug-in side: type, padding, mask, value.
+static_assert(sizeof(ZMMatchCriterion) == 12);
+static_assert(offsetof(ZMMatchCriterion, mask) == 4);
+static_assert(offsetof(ZMMatchCriterion, value) == 8);
 
 static_assert(offsetof(ZMNotifierMessage, notifier) == 32);
 static_assert(offsetof(ZMNotifierMessage, type) == 40);

@@ -1,0 +1,51 @@
+#include "suites/ColorRecords.hpp"
+
+#include "document/Resources.hpp"
+
+namespace zm::host {
+
+namespace {
+
+using document::ColorKind;
+
+// The model's colour kinds carry the SDK's codes, so the kind passes through unchanged.
+static_assert(static_cast<int16_t>(ColorKind::Gray) == ZM_COLOR_GRAY);
+static_assert(static_cast<int16_t>(ColorKind::Cmyk) == ZM_COLOR_FOUR);
+static_assert(static_cast<int16_t>(ColorKind::Pattern) == ZM_COLOR_PATTERN);
+static_assert(static_cast<int16_t>(ColorKind::Custom) == ZM_COLOR_CUSTOM);
+static_assert(static_cast<int16_t>(ColorKind::Gradient) == ZM_COLOR_GRADIENT);
+static_assert(static_cast<int16_t>(ColorKind::Rgb) == ZM_COLOR_THREE);
+static_assert(static_cast<int16_t>(ColorKind::None) == ZM_COLOR_NONE);
+
+}  // namespace
+
+ZMColor ToColorRecord(const document::Color& color) {
+    ZMColor record{};
+    record.kind = static_cast<int16_t>(color.kind);
+    switch (color.kind) {
+        case ColorKind::Gray:
+            record.c.gray.gray = color.gray;
+            break;
+        case ColorKind::Cmyk:
+            record.c.four = {color.cmyk[0], color.cmyk[1], color.cmyk[2], color.cmyk[3]};
+            break;
+        case ColorKind::Rgb:
+            record.c.three = {color.rgb[0], color.rgb[1], color.rgb[2]};
+            break;
+        case ColorKind::Custom:
+            record.c.custom.color = reinterpret_cast<ZMCustomColorHandle>(color.custom);
+            record.c.custom.tint = color.tint;
+            break;
+        case ColorKind::Pattern:
+            record.c.pattern = reinterpret_cast<ZMPatternHandle>(color.pattern);
+            break;
+        case ColorKind::Gradient:
+            record.c.gradient = reinterpret_cast<ZMGradientHandle>(color.gradient);
+            break;
+        case ColorKind::None:
+            break;
+    }
+    return record;
+}
+
+}  // namespace zm::host

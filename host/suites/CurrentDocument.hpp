@@ -1,0 +1,20 @@
+#pragma once
+
+#include <zelmora/ZMTypes.h>
+
+#include "document/Document.hpp"
+#include "runtime/HostError.hpp"
+#include "runtime/Runtime.hpp"
+
+namespace zm::host {
+
+// The document the suites work on; throws HostError(ZM_ERR_NO_DOCUMENT) when none is open.
+inline document::Document& CurrentDocument(Runtime& runtime) {
+    document::Document* current = runtime.documents.Current();
+    if (current == nullptr) {
+        throw HostError(ZM_ERR_NO_DOCUMENT, "no document is open");
+    }
+    return *current;
+}
+
+}  // namespace zm::host
