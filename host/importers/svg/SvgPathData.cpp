@@ -50,6 +50,9 @@ public:
         while (!scanner_.AtEnd()) {
             char c = scanner_.Peek();
             if (IsCommand(c)) {
+                if (command == 0 && c != 'M' && c != 'm') {
+                    break;  // path data starts with a moveto
+                }
                 scanner_.Advance();
                 command = c;
             } else if (command == 0 || command == 'Z' || command == 'z') {
