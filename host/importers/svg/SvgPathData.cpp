@@ -194,6 +194,7 @@ private:
             case 'Z': {
                 if (open_) {
                     current_.closed = true;
+                    current_.returnsToStart = true;
                     lastStart_ = current_.start;
                     Finish();
                 }
@@ -333,7 +334,7 @@ document::PathGeometry ToPathGeometry(const Subpath& subpath, const Affine& toMo
         segments.back().out = toModel.Apply(piece.control1);
         segments.push_back({end, toModel.Apply(piece.control2), end, true});
     }
-    if (subpath.closed && segments.size() > 1 &&
+    if (subpath.closed && subpath.returnsToStart && segments.size() > 1 &&
         NearlyEqual(segments.back().anchor, segments.front().anchor)) {
         segments.front().in = segments.back().in;
         segments.pop_back();

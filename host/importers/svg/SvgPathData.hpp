@@ -23,6 +23,10 @@ struct Subpath {
     document::Point start;
     std::vector<CurvePiece> pieces;
     bool closed = false;
+    // The last piece comes back to the start (path data's closepath, a circle's last arc):
+    // an end there is the start point again, not an anchor of its own. Outlines whose
+    // corners merely coincide (a rectangle of no size) keep every corner.
+    bool returnsToStart = false;
 
     void LineTo(const document::Point& p);
     void CurveTo(const document::Point& c1, const document::Point& c2, const document::Point& p);
@@ -40,8 +44,8 @@ std::vector<Subpath> ParsePathData(std::string_view data);
 void AppendArc(Subpath& subpath, double rx, double ry, double xAxisRotation, bool largeArc,
                bool sweep, const document::Point& end);
 
-// The anchors of a subpath after mapping it through `toModel`. A closed subpath whose last
-// point lands on its first counts that point once.
+// The anchors of a subpath after mapping it through `toModel`. A closed subpath that returns
+// to its start and whose last point lands on its first counts that point once.
 document::PathGeometry ToPathGeometry(const Subpath& subpath, const Affine& toModel);
 
 }  // namespace zm::host::svg

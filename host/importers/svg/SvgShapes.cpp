@@ -35,6 +35,7 @@ Subpath RectOutline(double x, double y, double width, double height, double rx, 
         return outline;
     }
     // Clockwise on screen from the top edge's left end, as SVG draws a rounded rect.
+    outline.returnsToStart = true;
     outline.start = {x + rx, y};
     outline.LineTo({right - rx, y});
     QuarterArc(outline, {right - rx, y}, {right, y}, {right, y + ry});
@@ -53,6 +54,7 @@ Subpath EllipseOutline(double cx, double cy, double rx, double ry) {
     Subpath outline;
     outline.closed = true;
     Point right{cx + rx, cy}, bottom{cx, cy + ry}, left{cx - rx, cy}, top{cx, cy - ry};
+    outline.returnsToStart = true;
     outline.start = right;
     QuarterArc(outline, right, {cx + rx, cy + ry}, bottom);
     QuarterArc(outline, bottom, {cx - rx, cy + ry}, left);

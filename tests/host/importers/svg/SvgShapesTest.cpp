@@ -53,6 +53,15 @@ TEST(SvgShapesTest, ACircleIsFourArcsWithTheUsualHandles) {
     EXPECT_FALSE(geometry.segments[0].corner);  // smooth all round
 }
 
+TEST(SvgShapesTest, ARectangleOfNoSizeKeepsFourCorners) {
+    EXPECT_EQ(Anchors(RectOutline(5, 5, 0, 0, 0, 0)).size(), 4u);
+}
+
+TEST(SvgShapesTest, APolygonKeepsARepeatedFirstPoint) {
+    // One anchor per listed point, the closing repeat included.
+    EXPECT_EQ(Anchors(PolyOutline({0, 0, 10, 0, 10, 10, 0, 0}, true).at(0)).size(), 4u);
+}
+
 TEST(SvgShapesTest, ALineHasTwoAnchorsAndIsOpen) {
     auto geometry = ToPathGeometry(LineOutline(0, 0, 3, 4), Affine{});
     EXPECT_EQ(geometry.segments.size(), 2u);
