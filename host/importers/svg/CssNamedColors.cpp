@@ -172,10 +172,9 @@ std::optional<uint32_t> NamedColor(std::string_view name) {
     std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) {
         return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
     });
-    auto found = std::lower_bound(kNamedColors.begin(), kNamedColors.end(), lower,
-                                  [](const NamedColorRow& row, const std::string& key) {
-                                      return row.name < key;
-                                  });
+    auto found = std::lower_bound(
+        kNamedColors.begin(), kNamedColors.end(), lower,
+        [](const NamedColorRow& row, const std::string& key) { return row.name < key; });
     if (found == kNamedColors.end() || found->name != lower) {
         return std::nullopt;
     }

@@ -21,8 +21,8 @@ using document::ArtType;
 
 namespace {
 
-constexpr std::array<std::string_view, 7> kShapeNames{"path",    "rect",     "circle", "ellipse",
-                                                      "line",    "polyline", "polygon"};
+constexpr std::array<std::string_view, 7> kShapeNames{"path", "rect",     "circle", "ellipse",
+                                                      "line", "polyline", "polygon"};
 
 bool IsShapeName(std::string_view name) {
     return std::find(kShapeNames.begin(), kShapeNames.end(), name) != kShapeNames.end();
@@ -63,8 +63,7 @@ private:
 
 // Corner values of a live shape: one value for all corners, or one per corner.
 template <typename Parse>
-void ApplyCornerList(std::vector<document::Corner>& corners, std::string_view text,
-                     Parse&& parse) {
+void ApplyCornerList(std::vector<document::Corner>& corners, std::string_view text, Parse&& parse) {
     auto words = SplitWords(text);
     if (words.empty()) {
         return;
@@ -137,15 +136,17 @@ std::unique_ptr<Art> SvgArtConverter::ConvertGroup(pugi::xml_node element, const
     Affine inside = toModel;
     if (context_.names.SvgName(element) == "svg") {
         // A nested viewport: its position, then its own viewBox.
-        double width = LengthAttribute(element, "width", context_.viewportWidth,
-                                       context_.viewportWidth);
-        double height = LengthAttribute(element, "height", context_.viewportHeight,
-                                        context_.viewportHeight);
-        inside = inside * Affine::Translate(LengthAttribute(element, "x", 0, context_.viewportWidth),
-                                            LengthAttribute(element, "y", 0, context_.viewportHeight));
+        double width =
+            LengthAttribute(element, "width", context_.viewportWidth, context_.viewportWidth);
+        double height =
+            LengthAttribute(element, "height", context_.viewportHeight, context_.viewportHeight);
+        inside =
+            inside * Affine::Translate(LengthAttribute(element, "x", 0, context_.viewportWidth),
+                                       LengthAttribute(element, "y", 0, context_.viewportHeight));
         if (auto box = ParseViewBox(element.attribute("viewBox").value())) {
-            inside = inside * ViewBoxTransform(*box, element.attribute("preserveAspectRatio").value(),
-                                               width, height);
+            inside =
+                inside * ViewBoxTransform(*box, element.attribute("preserveAspectRatio").value(),
+                                          width, height);
         }
     }
     std::string_view plugin = context_.names.Value(element, Vocabulary::Zelmora, "plugin");
@@ -199,8 +200,7 @@ std::vector<Subpath> SvgArtConverter::Outline(pugi::xml_node element) const {
                             length("y2", height))};
     }
     if (name == "polyline" || name == "polygon") {
-        return PolyOutline(ParseNumberList(element.attribute("points").value()),
-                           name == "polygon");
+        return PolyOutline(ParseNumberList(element.attribute("points").value()), name == "polygon");
     }
     return {};
 }
@@ -379,7 +379,8 @@ void SvgArtConverter::ApplyCommon(Art& art, pugi::xml_node element, const Affine
 
     std::string_view named = context_.names.Value(element, Vocabulary::Zelmora, "graphic-style");
     if (!named.empty()) {
-        art.graphicStyle = context_.resources.GraphicStyleNamed(context_.document, std::string(named));
+        art.graphicStyle =
+            context_.resources.GraphicStyleNamed(context_.document, std::string(named));
     } else {
         for (std::string_view word : SplitWords(element.attribute("class").value())) {
             if (context_.sheet.DefinesClass(word)) {

@@ -62,8 +62,7 @@ private:
                                               int depth);
     document::Symbol* SymbolFor(pugi::xml_node target, int depth);
     // Name, blend, graphic style and opacity mask of any art.
-    void ApplyCommon(document::Art& art, pugi::xml_node element, const Affine& toModel,
-                     int depth);
+    void ApplyCommon(document::Art& art, pugi::xml_node element, const Affine& toModel, int depth);
     // The clip group holding the clip paths and the art, or the art itself.
     std::unique_ptr<document::Art> ApplyClip(std::unique_ptr<document::Art> art,
                                              pugi::xml_node element, const Affine& toModel,

@@ -20,8 +20,8 @@ struct ProfileCloser {
 };
 
 std::string Description(cmsHPROFILE profile) {
-    cmsUInt32Number size = cmsGetProfileInfoASCII(profile, cmsInfoDescription, "en", "US",
-                                                  nullptr, 0);
+    cmsUInt32Number size =
+        cmsGetProfileInfoASCII(profile, cmsInfoDescription, "en", "US", nullptr, 0);
     if (size == 0) {
         return {};
     }

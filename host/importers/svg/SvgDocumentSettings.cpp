@@ -35,7 +35,8 @@ int16_t ColorModelNamed(std::string_view name) {
 }
 
 std::optional<document::RulerUnits> UnitsOfRoot(const ImportContext& context) {
-    if (auto units = RulerUnitsNamed(context.names.Value(context.root, Vocabulary::Zelmora, "units"))) {
+    if (auto units =
+            RulerUnitsNamed(context.names.Value(context.root, Vocabulary::Zelmora, "units"))) {
         return units;
     }
     // Inkscape keeps its setting on the named view.

@@ -9,8 +9,7 @@
 namespace zm::host::svg {
 
 std::unique_ptr<document::Art> ConvertForeignObject(SvgArtConverter& converter,
-                                                    pugi::xml_node element,
-                                                    const Affine& toModel) {
+                                                    pugi::xml_node element, const Affine& toModel) {
     ImportContext& context = converter.Context();
     auto art = converter.NewArt(document::ArtType::ForeignObject, element);
     auto content = std::make_unique<document::ForeignContent>();
@@ -21,9 +20,8 @@ std::unique_ptr<document::Art> ConvertForeignObject(SvgArtConverter& converter,
         const ComputedStyle& style = context.styles.For(node);
         if (auto family = style.declared.find("font-family"); family != style.declared.end()) {
             std::string name = FirstFontFamily(family->second);
-            if (!name.empty() &&
-                std::find(content->fonts.begin(), content->fonts.end(), name) ==
-                    content->fonts.end()) {
+            if (!name.empty() && std::find(content->fonts.begin(), content->fonts.end(), name) ==
+                                     content->fonts.end()) {
                 content->fonts.push_back(std::move(name));
             }
         }

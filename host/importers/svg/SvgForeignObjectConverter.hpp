@@ -15,7 +15,6 @@ class SvgArtConverter;
 // family of each font-family, each font once, in document order), transparent when any of
 // its content has an opacity below 1, bounds from x, y, width and height.
 std::unique_ptr<document::Art> ConvertForeignObject(SvgArtConverter& converter,
-                                                    pugi::xml_node element,
-                                                    const Affine& toModel);
+                                                    pugi::xml_node element, const Affine& toModel);
 
 }  // namespace zm::host::svg

@@ -36,12 +36,12 @@ bool IsRasterFile(const std::filesystem::path& file) {
         return static_cast<std::size_t>(in.gcount()) >= at + magic.size() &&
                std::equal(magic.begin(), magic.end(), head.begin() + static_cast<long>(at));
     };
-    return starts({0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A}) ||  // PNG
-           starts({0xFF, 0xD8, 0xFF}) ||                              // JPEG
+    return starts({0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A}) ||             // PNG
+           starts({0xFF, 0xD8, 0xFF}) ||                                        // JPEG
            starts({'I', 'I', 0x2A, 0x00}) || starts({'M', 'M', 0x00, 0x2A}) ||  // TIFF
-           starts({'G', 'I', 'F', '8'}) ||                            // GIF
-           starts({'B', 'M'}) ||                                      // BMP
-           (starts({'R', 'I', 'F', 'F'}) && starts({'W', 'E', 'B', 'P'}, 8));  // WebP
+           starts({'G', 'I', 'F', '8'}) ||                                      // GIF
+           starts({'B', 'M'}) ||                                                // BMP
+           (starts({'R', 'I', 'F', 'F'}) && starts({'W', 'E', 'B', 'P'}, 8));   // WebP
 }
 
 std::unique_ptr<Art> ConvertImage(SvgArtConverter& converter, pugi::xml_node element,
@@ -60,8 +60,8 @@ std::unique_ptr<Art> ConvertImage(SvgArtConverter& converter, pugi::xml_node ele
         art = converter.NewArt(ArtType::Placed, element);
         image->file = ResolveLinkedFile(image->href, context.baseFolder);
         std::error_code error;
-        image->fileExists = !image->href.empty() &&
-                            std::filesystem::is_regular_file(image->file, error);
+        image->fileExists =
+            !image->href.empty() && std::filesystem::is_regular_file(image->file, error);
         image->fileIsRaster = image->fileExists && IsRasterFile(image->file);
         image->placedType = HasExtension(image->file, ".eps") ? document::PlacedType::Eps
                                                               : document::PlacedType::Other;

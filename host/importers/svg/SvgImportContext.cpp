@@ -8,7 +8,11 @@ namespace zm::host::svg {
 
 ImportContext::ImportContext(document::Document& target, pugi::xml_node svgRoot,
                              std::filesystem::path folder)
-    : document(target), root(svgRoot), names(svgRoot), styles(sheet), baseFolder(std::move(folder)) {
+    : document(target),
+      root(svgRoot),
+      names(svgRoot),
+      styles(sheet),
+      baseFolder(std::move(folder)) {
     ForEachElement(root, [&](pugi::xml_node element, std::size_t) {
         std::string_view id = element.attribute("id").value();
         if (!id.empty()) {

@@ -19,8 +19,7 @@ namespace zm::host::svg {
 // Everything the parts of one import share: the XML, its names, styles and resources, and
 // the document being filled.
 struct ImportContext {
-    ImportContext(document::Document& target, pugi::xml_node svgRoot,
-                  std::filesystem::path folder);
+    ImportContext(document::Document& target, pugi::xml_node svgRoot, std::filesystem::path folder);
     ImportContext(const ImportContext&) = delete;
     ImportContext& operator=(const ImportContext&) = delete;
 

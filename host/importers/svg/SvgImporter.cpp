@@ -26,11 +26,11 @@ using svg::Vocabulary;
 std::string ParseErrorText(std::string_view text, const pugi::xml_parse_result& result) {
     auto offset = static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, result.offset));
     offset = std::min(offset, text.size());
-    std::size_t line = 1 + static_cast<std::size_t>(
-                               std::count(text.begin(), text.begin() + static_cast<long>(offset), '\n'));
+    std::size_t line = 1 + static_cast<std::size_t>(std::count(
+                               text.begin(), text.begin() + static_cast<long>(offset), '\n'));
     std::size_t lineStart = text.rfind('\n', offset == 0 ? 0 : offset - 1);
-    std::size_t column = lineStart == std::string_view::npos || offset == 0 ? offset + 1
-                                                                           : offset - lineStart;
+    std::size_t column =
+        lineStart == std::string_view::npos || offset == 0 ? offset + 1 : offset - lineStart;
     return "not well-formed XML: " + std::string(result.description()) + " at line " +
            std::to_string(line) + ", column " + std::to_string(column);
 }
@@ -104,8 +104,8 @@ std::unique_ptr<Document> ImportSvgFile(const std::filesystem::path& file) {
 
 std::unique_ptr<Document> ImportSvgText(std::string_view text, const std::filesystem::path& file) {
     pugi::xml_document xml;
-    pugi::xml_parse_result result = xml.load_buffer(text.data(), text.size(),
-                                                    pugi::parse_default, pugi::encoding_auto);
+    pugi::xml_parse_result result =
+        xml.load_buffer(text.data(), text.size(), pugi::parse_default, pugi::encoding_auto);
     if (!result) {
         throw DocumentOpenError(file, ParseErrorText(text, result));
     }

@@ -70,7 +70,8 @@ std::string PercentDecode(std::string_view text) {
     std::string out;
     out.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '%' && i + 2 < text.size() && HexValue(text[i + 1]) >= 0 && HexValue(text[i + 2]) >= 0) {
+        if (text[i] == '%' && i + 2 < text.size() && HexValue(text[i + 1]) >= 0 &&
+            HexValue(text[i + 2]) >= 0) {
             out += static_cast<char>(HexValue(text[i + 1]) * 16 + HexValue(text[i + 2]));
             i += 2;
         } else {
@@ -95,7 +96,8 @@ std::filesystem::path ResolveLinkedFile(std::string_view href,
     }
     auto colon = href.find(':');
     auto slash = href.find('/');
-    if (colon != std::string_view::npos && colon > 1 && (slash == std::string_view::npos || colon < slash)) {
+    if (colon != std::string_view::npos && colon > 1 &&
+        (slash == std::string_view::npos || colon < slash)) {
         return std::filesystem::path(std::string(href));  // another scheme: no local file
     }
     std::filesystem::path path(PercentDecode(href));

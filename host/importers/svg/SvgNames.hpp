@@ -10,12 +10,14 @@ namespace zm::host::svg {
 
 // The namespace URIs the importer reads, and the prefixes a document binds them to.
 inline constexpr std::string_view kZelmoraNamespace = "https://zelmora.example/ns/1.0";
-inline constexpr std::string_view kInkscapeNamespace = "http://www.inkscape.org/namespaces/inkscape";
+inline constexpr std::string_view kInkscapeNamespace =
+    "http://www.inkscape.org/namespaces/inkscape";
 inline constexpr std::string_view kSodipodiNamespace =
     "http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd";
 inline constexpr std::string_view kXlinkNamespace = "http://www.w3.org/1999/xlink";
 inline constexpr std::string_view kSvgNamespace = "http://www.w3.org/2000/svg";
-inline constexpr std::string_view kOpenSwatchBookNamespace = "http://www.openswatchbook.org/uri/2009/osb";
+inline constexpr std::string_view kOpenSwatchBookNamespace =
+    "http://www.openswatchbook.org/uri/2009/osb";
 
 enum class Vocabulary { Zelmora, Inkscape, Sodipodi, Xlink, Svg, OpenSwatchBook };
 

@@ -12,8 +12,8 @@ namespace zm::host::svg {
 struct PaintValue {
     enum class Kind { None, Color, CurrentColor, Url };
     Kind kind = Kind::None;
-    ParsedColor color;      // Kind::Color
-    std::string url;        // Kind::Url: the id, without '#'
+    ParsedColor color;  // Kind::Color
+    std::string url;    // Kind::Url: the id, without '#'
     // What a url() falls back to when its target is missing: none when not given.
     Kind fallbackKind = Kind::None;
     ParsedColor fallbackColor;

@@ -32,9 +32,26 @@ double VectorAngle(double ux, double uy, double vx, double vy) {
 
 bool IsCommand(char c) {
     switch (c) {
-        case 'M': case 'm': case 'L': case 'l': case 'H': case 'h': case 'V': case 'v':
-        case 'C': case 'c': case 'S': case 's': case 'Q': case 'q': case 'T': case 't':
-        case 'A': case 'a': case 'Z': case 'z':
+        case 'M':
+        case 'm':
+        case 'L':
+        case 'l':
+        case 'H':
+        case 'h':
+        case 'V':
+        case 'v':
+        case 'C':
+        case 'c':
+        case 'S':
+        case 's':
+        case 'Q':
+        case 'q':
+        case 'T':
+        case 't':
+        case 'A':
+        case 'a':
+        case 'Z':
+        case 'z':
             return true;
         default:
             return false;
@@ -264,8 +281,8 @@ void AppendArc(Subpath& subpath, double rx, double ry, double xAxisRotation, boo
     double cx = cosPhi * cx1 - sinPhi * cy1 + (from.x + end.x) / 2;
     double cy = sinPhi * cx1 + cosPhi * cy1 + (from.y + end.y) / 2;
     double theta1 = VectorAngle(1, 0, (x1 - cx1) / rx, (y1 - cy1) / ry);
-    double delta = VectorAngle((x1 - cx1) / rx, (y1 - cy1) / ry, (-x1 - cx1) / rx,
-                               (-y1 - cy1) / ry);
+    double delta =
+        VectorAngle((x1 - cx1) / rx, (y1 - cy1) / ry, (-x1 - cx1) / rx, (-y1 - cy1) / ry);
     if (!sweep && delta > 0) {
         delta -= 2 * std::numbers::pi;
     } else if (sweep && delta < 0) {

@@ -44,8 +44,8 @@ bool HasChildNamed(const ImportContext& context, pugi::xml_node element, std::st
 // The first element of the href chain (the element itself first) that `accepts`; the
 // chain stops at a missing target, a target that is not `sameKind`, or a cycle.
 template <typename SameKind, typename Accepts>
-pugi::xml_node FollowHref(const ImportContext& context, pugi::xml_node element,
-                          SameKind&& sameKind, Accepts&& accepts) {
+pugi::xml_node FollowHref(const ImportContext& context, pugi::xml_node element, SameKind&& sameKind,
+                          Accepts&& accepts) {
     std::unordered_set<const void*> seen;
     while (element && sameKind(element) && seen.insert(element.internal_object()).second) {
         if (accepts(element)) {
@@ -72,7 +72,7 @@ void FillOtherModel(document::CustomColor& swatch) {
         double k = 1 - std::max({r, g, b});
         double rest = 1 - k;
         swatch.cmyk = rest > 0 ? std::array<double, 4>{(rest - r) / rest, (rest - g) / rest,
-                                                      (rest - b) / rest, k}
+                                                       (rest - b) / rest, k}
                                : std::array<double, 4>{0, 0, 0, 1};
     }
 }
@@ -259,9 +259,10 @@ void SvgResources::AddPattern(ImportContext& context, pugi::xml_node element) {
     pattern->name = context.ResourceName(element);
     pugi::xml_node content = FollowHref(
         context, element, [&](pugi::xml_node e) { return context.names.SvgName(e) == "pattern"; },
-        [](pugi::xml_node e) { return static_cast<bool>(e.find_child([](pugi::xml_node child) {
-            return child.type() == pugi::node_element;
-        })); });
+        [](pugi::xml_node e) {
+            return static_cast<bool>(e.find_child(
+                [](pugi::xml_node child) { return child.type() == pugi::node_element; }));
+        });
     patternSources_.push_back({pattern.get(), content});
     if (!pattern->id.empty()) {
         patterns_.emplace(pattern->id, pattern.get());

@@ -11,7 +11,8 @@ namespace {
 // A quarter ellipse from `from` to `to` around `corner` of the box they share: the handles
 // point along the box's sides towards the corner.
 void QuarterArc(Subpath& subpath, const Point& from, const Point& corner, const Point& to) {
-    Point c1{from.x + kCircleKappa * (corner.x - from.x), from.y + kCircleKappa * (corner.y - from.y)};
+    Point c1{from.x + kCircleKappa * (corner.x - from.x),
+             from.y + kCircleKappa * (corner.y - from.y)};
     Point c2{to.x + kCircleKappa * (corner.x - to.x), to.y + kCircleKappa * (corner.y - to.y)};
     subpath.CurveTo(c1, c2, to);
 }

@@ -15,11 +15,11 @@ namespace {
 using document::BlendMode;
 
 constexpr std::array<std::string_view, 22> kPresentationAttributes{
-    "fill",        "stroke",         "fill-opacity", "stroke-opacity", "fill-rule",
-    "stroke-width", "color",         "font-family",  "font-size",      "font-weight",
-    "font-style",  "opacity",        "mix-blend-mode", "clip-path",    "mask",
-    "stop-color",  "stop-opacity",   "display",      "inline-size",    "shape-inside",
-    "visibility",  "font-variant",
+    "fill",         "stroke",       "fill-opacity",   "stroke-opacity", "fill-rule",
+    "stroke-width", "color",        "font-family",    "font-size",      "font-weight",
+    "font-style",   "opacity",      "mix-blend-mode", "clip-path",      "mask",
+    "stop-color",   "stop-opacity", "display",        "inline-size",    "shape-inside",
+    "visibility",   "font-variant",
 };
 
 struct BlendName {
@@ -28,14 +28,22 @@ struct BlendName {
 };
 
 constexpr std::array<BlendName, 16> kBlendNames{{
-    {"normal", BlendMode::Normal},         {"multiply", BlendMode::Multiply},
-    {"screen", BlendMode::Screen},         {"overlay", BlendMode::Overlay},
-    {"soft-light", BlendMode::SoftLight},  {"hard-light", BlendMode::HardLight},
-    {"color-dodge", BlendMode::ColorDodge}, {"color-burn", BlendMode::ColorBurn},
-    {"darken", BlendMode::Darken},         {"lighten", BlendMode::Lighten},
-    {"difference", BlendMode::Difference}, {"exclusion", BlendMode::Exclusion},
-    {"hue", BlendMode::Hue},               {"saturation", BlendMode::Saturation},
-    {"color", BlendMode::Color},           {"luminosity", BlendMode::Luminosity},
+    {"normal", BlendMode::Normal},
+    {"multiply", BlendMode::Multiply},
+    {"screen", BlendMode::Screen},
+    {"overlay", BlendMode::Overlay},
+    {"soft-light", BlendMode::SoftLight},
+    {"hard-light", BlendMode::HardLight},
+    {"color-dodge", BlendMode::ColorDodge},
+    {"color-burn", BlendMode::ColorBurn},
+    {"darken", BlendMode::Darken},
+    {"lighten", BlendMode::Lighten},
+    {"difference", BlendMode::Difference},
+    {"exclusion", BlendMode::Exclusion},
+    {"hue", BlendMode::Hue},
+    {"saturation", BlendMode::Saturation},
+    {"color", BlendMode::Color},
+    {"luminosity", BlendMode::Luminosity},
 }};
 
 // "0.5" or "50%", clamped to 0..1.
@@ -91,8 +99,8 @@ std::string FirstFontFamily(std::string_view list) {
     list = TrimSvgSpace(list);
     if (!list.empty() && (list.front() == '"' || list.front() == '\'')) {
         auto close = list.find(list.front(), 1);
-        return std::string(list.substr(1, close == std::string_view::npos ? list.size() - 1
-                                                                           : close - 1));
+        return std::string(
+            list.substr(1, close == std::string_view::npos ? list.size() - 1 : close - 1));
     }
     auto comma = list.find(',');
     std::string_view first = TrimSvgSpace(list.substr(0, comma));

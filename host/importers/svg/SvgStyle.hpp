@@ -29,7 +29,7 @@ struct ComputedStyle {
     bool evenOdd = false;
     double strokeWidth = 1;
     ParsedColor color{document::Color::Black(), 1, false};  // what currentColor means
-    std::string fontFamily;                                  // the first family, unquoted
+    std::string fontFamily;                                 // the first family, unquoted
     double fontSize = 16;
     int fontWeight = 400;
     std::string fontStyle = "normal";

@@ -19,12 +19,9 @@ Affine Affine::Rotate(double degrees) {
 }
 
 Affine Affine::operator*(const Affine& inner) const {
-    return {a * inner.a + c * inner.b,
-            b * inner.a + d * inner.b,
-            a * inner.c + c * inner.d,
-            b * inner.c + d * inner.d,
-            a * inner.e + c * inner.f + e,
-            b * inner.e + d * inner.f + f};
+    return {a * inner.a + c * inner.b,     b * inner.a + d * inner.b,
+            a * inner.c + c * inner.d,     b * inner.c + d * inner.d,
+            a * inner.e + c * inner.f + e, b * inner.e + d * inner.f + f};
 }
 
 document::Point Affine::Apply(const document::Point& p) const {

@@ -51,14 +51,15 @@ TEST(CssDeclarationsTest, SemicolonsInsideQuotesOrParenthesesDoNotSplit) {
 
 TEST_F(CssStyleSheetTest, IdBeatsClassBeatsType) {
     const char* markup = R"(<svg><rect id="r" class="a"/></svg>)";
-    EXPECT_EQ(Value("#r { fill: blue } .a { fill: red } rect { fill: green }", markup, "r"), "blue");
+    EXPECT_EQ(Value("#r { fill: blue } .a { fill: red } rect { fill: green }", markup, "r"),
+              "blue");
     EXPECT_EQ(Value(".a { fill: red } rect { fill: green }", markup, "r"), "red");
 }
 
 TEST_F(CssStyleSheetTest, AmongEqualSelectorsTheLaterWins) {
-    EXPECT_EQ(Value(".a { fill: red } .a { fill: green }", R"(<svg><rect id="r" class="a"/></svg>)",
-                    "r"),
-              "green");
+    EXPECT_EQ(
+        Value(".a { fill: red } .a { fill: green }", R"(<svg><rect id="r" class="a"/></svg>)", "r"),
+        "green");
 }
 
 TEST_F(CssStyleSheetTest, ImportantBeatsMoreSpecificRules) {

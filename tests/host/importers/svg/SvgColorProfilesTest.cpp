@@ -27,7 +27,8 @@ TEST(SvgColorProfilesTest, EachProfileFillsTheSlotOfItsColourSpace) {
     ScratchFolder scratch;
     SaveProfile(cmsCreate_sRGBProfile(), "Test RGB", scratch.Path() / "rgb.icc");
     cmsToneCurve* gamma = cmsBuildGamma(nullptr, 2.2);
-    SaveProfile(cmsCreateGrayProfile(cmsD50_xyY(), gamma), "Test Gray", scratch.Path() / "gray.icc");
+    SaveProfile(cmsCreateGrayProfile(cmsD50_xyY(), gamma), "Test Gray",
+                scratch.Path() / "gray.icc");
     cmsFreeToneCurve(gamma);
     // An ink-limiting link works in CMYK: enough for a CMYK colour space.
     SaveProfile(cmsCreateInkLimitingDeviceLink(cmsSigCmykData, 300), "Test CMYK",

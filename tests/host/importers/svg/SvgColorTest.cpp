@@ -53,7 +53,7 @@ TEST(SvgColorTest, NamedColoursIgnoreCase) {
     ExpectRgb("rebeccapurple", 0x66 / 255.0, 0x33 / 255.0, 0x99 / 255.0);
     ExpectRgb("DarkOliveGreen", 0x55 / 255.0, 0x6b / 255.0, 0x2f / 255.0);
     ExpectRgb("yellowgreen", 0x9a / 255.0, 0xcd / 255.0, 0x32 / 255.0);  // last of the list
-    ExpectRgb("aliceblue", 0xf0 / 255.0, 0xf8 / 255.0, 1);                // first of the list
+    ExpectRgb("aliceblue", 0xf0 / 255.0, 0xf8 / 255.0, 1);               // first of the list
     EXPECT_FALSE(ParseColor("notacolor"));
 }
 

@@ -45,8 +45,8 @@ TEST(SvgDocumentSettingsTest, ArtboardsInUserUnits) {
 }
 
 TEST(SvgDocumentSettingsTest, DefaultsWithoutSettings) {
-    auto document =
-        ImportSvgText(R"(<svg xmlns="http://www.w3.org/2000/svg" width="100" height="50"/>)", "d.svg");
+    auto document = ImportSvgText(
+        R"(<svg xmlns="http://www.w3.org/2000/svg" width="100" height="50"/>)", "d.svg");
     EXPECT_EQ(document->colorModel, host::document::kColorModelRgb);
     EXPECT_EQ(document->rulerUnits, RulerUnits::Pixels);
     EXPECT_TRUE(document->dictionary.empty());  // keys only for attributes present

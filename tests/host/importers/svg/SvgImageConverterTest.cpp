@@ -62,8 +62,8 @@ TEST_F(SvgImageTest, ADataUriIsEmbeddedRasterArt) {
     EXPECT_TRUE(art.image->embedded);
     EXPECT_EQ(art.image->mediaType, "image/png");
     // "iVBORw0KGgoAAA==" is the PNG signature's eight bytes and two zero bytes.
-    EXPECT_EQ(art.image->data, (std::vector<uint8_t>{0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A,
-                                                     0, 0}));
+    EXPECT_EQ(art.image->data,
+              (std::vector<uint8_t>{0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A, 0, 0}));
     // x 10..50 px, y 10..30 px from the top of 75 pt.
     EXPECT_EQ(art.bounds, (Rect{7.5, 67.5, 37.5, 52.5}));
 }
@@ -127,8 +127,7 @@ TEST(SvgRasterFileTest, MagicBytesOfEachFormat) {
     };
     for (const Sample& sample : {Sample{"a.tif", std::string("II*\0", 4), true},
                                  Sample{"b.tif", std::string("MM\0*", 4), true},
-                                 Sample{"c.gif", "GIF89a", true},
-                                 Sample{"d.bmp", "BM\x10\0", true},
+                                 Sample{"c.gif", "GIF89a", true}, Sample{"d.bmp", "BM\x10\0", true},
                                  Sample{"e.webp", std::string("RIFF\0\0\0\0WEBP", 12), true},
                                  Sample{"f.wav", std::string("RIFF\0\0\0\0WAVE", 12), false},
                                  Sample{"g.txt", "hello", false}}) {

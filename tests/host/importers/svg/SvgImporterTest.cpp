@@ -78,10 +78,10 @@ TEST_F(SvgShapesImportTest, AnchorCountsPerShape) {
         std::size_t segments;
         bool closed;
     };
-    for (const Expected& e : {Expected{"rounded", 8, true}, Expected{"circle", 4, true},
-                              Expected{"ellipse", 4, true}, Expected{"line", 2, false},
-                              Expected{"polyline", 4, false}, Expected{"polygon", 3, true},
-                              Expected{"triangle", 3, true}, Expected{"open", 2, false}}) {
+    for (const Expected& e :
+         {Expected{"rounded", 8, true}, Expected{"circle", 4, true}, Expected{"ellipse", 4, true},
+          Expected{"line", 2, false}, Expected{"polyline", 4, false}, Expected{"polygon", 3, true},
+          Expected{"triangle", 3, true}, Expected{"open", 2, false}}) {
         const Art& art = ArtById(*document, e.id);
         EXPECT_EQ(TypeCode(art), 2) << e.id;
         EXPECT_EQ(art.path.segments.size(), e.segments) << e.id;
@@ -297,10 +297,12 @@ TEST(SvgImportErrorTest, AbsurdNumbersOpenWithFiniteGeometry) {
 
 TEST(SvgImportErrorTest, AHugePolylineKeepsEveryPoint) {
     std::string points;
-    for (int i = 0; i < 100000; ++i) points += std::to_string(i % 500) + "," + std::to_string(i / 500) + " ";
-    auto document = ImportSvgText(
-        "<svg xmlns=\"http://www.w3.org/2000/svg\"><polyline id=\"p\" points=\"" + points + "\"/></svg>",
-        "big.svg");
+    for (int i = 0; i < 100000; ++i)
+        points += std::to_string(i % 500) + "," + std::to_string(i / 500) + " ";
+    auto document =
+        ImportSvgText("<svg xmlns=\"http://www.w3.org/2000/svg\"><polyline id=\"p\" points=\"" +
+                          points + "\"/></svg>",
+                      "big.svg");
     EXPECT_EQ(ArtById(*document, "p").path.segments.size(), 100000u);
 }
 

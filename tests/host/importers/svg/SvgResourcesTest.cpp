@@ -158,7 +158,7 @@ TEST_F(SvgResourcesTest, PatternsAreNamedAndHoldTheirContent) {
 
 TEST_F(SvgResourcesTest, TheFirstClassASheetDefinesIsTheGraphicStyle) {
     ASSERT_NE(ArtById(*document, "styled").graphicStyle, nullptr);
-    EXPECT_EQ(ArtById(*document, "styled").graphicStyle->name, "Warm");  // "Other" is undefined
+    EXPECT_EQ(ArtById(*document, "styled").graphicStyle->name, "Warm");      // "Other" is undefined
     EXPECT_EQ(ArtById(*document, "styled").style.fill.rgb[1], 128 / 255.0);  // #ff8000
     EXPECT_EQ(ArtById(*document, "overridden").graphicStyle->name, "Heading");
     EXPECT_EQ(ArtById(*document, "plain").graphicStyle, nullptr);
