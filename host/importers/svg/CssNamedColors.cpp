@@ -1,5 +1,7 @@
 #include "importers/svg/CssNamedColors.hpp"
 
+#include "importers/svg/SvgSyntax.hpp"
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -168,10 +170,7 @@ constexpr std::array<NamedColorRow, 148> kNamedColors{{
 }  // namespace
 
 std::optional<uint32_t> NamedColor(std::string_view name) {
-    std::string lower(name);
-    std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    });
+    std::string lower = AsciiLower(name);
     auto found = std::lower_bound(
         kNamedColors.begin(), kNamedColors.end(), lower,
         [](const NamedColorRow& row, const std::string& key) { return row.name < key; });

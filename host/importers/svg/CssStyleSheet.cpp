@@ -10,44 +10,41 @@ namespace zm::host::svg {
 
 namespace {
 
-std::string Lower(std::string_view text) {
-    std::string lower(text);
-    for (char& c : lower) {
-        if (c >= 'A' && c <= 'Z') {
-            c = static_cast<char>(c - 'A' + 'a');
-        }
-    }
-    return lower;
-}
-
 bool IsIdentChar(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' ||
            c == '_' || static_cast<unsigned char>(c) >= 0x80;
 }
 
+// The index of the quote that closes the string opening at `open`, or the text's end;
+// backslashes escape the next character.
+std::size_t EndOfString(std::string_view text, std::size_t open) {
+    for (std::size_t i = open + 1; i < text.size(); ++i) {
+        if (text[i] == '\\') {
+            ++i;
+        } else if (text[i] == text[open]) {
+            return i;
+        }
+    }
+    return text.size();
+}
+
+bool IsQuote(char c) { return c == '"' || c == '\''; }
+
 // The text with comments replaced by a blank; strings are kept as they are.
 std::string StripComments(std::string_view text) {
     std::string out;
     out.reserve(text.size());
-    char quote = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        char c = text[i];
-        if (quote) {
-            out += c;
-            if (c == '\\' && i + 1 < text.size()) {
-                out += text[++i];
-            } else if (c == quote) {
-                quote = 0;
-            }
-        } else if (c == '"' || c == '\'') {
-            quote = c;
-            out += c;
-        } else if (c == '/' && i + 1 < text.size() && text[i + 1] == '*') {
+        if (IsQuote(text[i])) {
+            std::size_t close = EndOfString(text, i);
+            out += text.substr(i, close + 1 - i);
+            i = close;
+        } else if (text[i] == '/' && i + 1 < text.size() && text[i + 1] == '*') {
             auto end = text.find("*/", i + 2);
             i = end == std::string_view::npos ? text.size() : end + 1;
             out += ' ';
         } else {
-            out += c;
+            out += text[i];
         }
     }
     return out;
@@ -57,17 +54,10 @@ std::string StripComments(std::string_view text) {
 // and brackets) from `from`, or npos.
 std::size_t FindTopLevel(std::string_view text, std::size_t from, std::string_view stops) {
     int depth = 0;
-    char quote = 0;
     for (std::size_t i = from; i < text.size(); ++i) {
         char c = text[i];
-        if (quote) {
-            if (c == '\\') {
-                ++i;
-            } else if (c == quote) {
-                quote = 0;
-            }
-        } else if (c == '"' || c == '\'') {
-            quote = c;
+        if (IsQuote(c)) {
+            i = EndOfString(text, i);
         } else if (depth == 0 && stops.find(c) != std::string_view::npos) {
             return i;
         } else if (c == '(' || c == '[') {
@@ -82,17 +72,10 @@ std::size_t FindTopLevel(std::string_view text, std::size_t from, std::string_vi
 // The position just after the block that opens at `open` ('{'), braces balanced.
 std::size_t SkipBlock(std::string_view text, std::size_t open) {
     int depth = 0;
-    char quote = 0;
     for (std::size_t i = open; i < text.size(); ++i) {
         char c = text[i];
-        if (quote) {
-            if (c == '\\') {
-                ++i;
-            } else if (c == quote) {
-                quote = 0;
-            }
-        } else if (c == '"' || c == '\'') {
-            quote = c;
+        if (IsQuote(c)) {
+            i = EndOfString(text, i);
         } else if (c == '{') {
             ++depth;
         } else if (c == '}' && --depth == 0) {
@@ -259,7 +242,7 @@ std::vector<CssDeclaration> ParseCssDeclarations(std::string_view block) {
         CssDeclaration declaration;
         auto bang = FindTopLevel(value, 0, "!");
         if (bang != std::string_view::npos) {
-            if (Lower(TrimSvgSpace(value.substr(bang + 1))) != "important") {
+            if (AsciiLower(TrimSvgSpace(value.substr(bang + 1))) != "important") {
                 continue;
             }
             declaration.important = true;
@@ -269,7 +252,7 @@ std::vector<CssDeclaration> ParseCssDeclarations(std::string_view block) {
             !std::all_of(property.begin(), property.end(), IsIdentChar)) {
             continue;
         }
-        declaration.property = Lower(property);
+        declaration.property = AsciiLower(property);
         declaration.value = std::string(value);
         declarations.push_back(std::move(declaration));
     }

@@ -15,30 +15,13 @@ namespace {
 using document::Color;
 using document::ColorKind;
 
-std::string Lower(std::string_view text) {
-    std::string lower(text);
-    for (char& c : lower) {
-        if (c >= 'A' && c <= 'Z') {
-            c = static_cast<char>(c - 'A' + 'a');
-        }
-    }
-    return lower;
-}
-
-int HexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
-}
-
 std::optional<ParsedColor> ParseHex(std::string_view digits) {
     if (digits.size() != 3 && digits.size() != 4 && digits.size() != 6 && digits.size() != 8) {
         return std::nullopt;
     }
     std::vector<int> values;
     for (char c : digits) {
-        int value = HexDigit(c);
+        int value = HexDigitValue(c);
         if (value < 0) {
             return std::nullopt;
         }
@@ -171,7 +154,7 @@ bool SplitFunction(std::string_view text, std::string& name, std::string_view& i
     if (open == std::string_view::npos || text.back() != ')') {
         return false;
     }
-    name = Lower(TrimSvgSpace(text.substr(0, open)));
+    name = AsciiLower(TrimSvgSpace(text.substr(0, open)));
     inside = text.substr(open + 1, text.size() - open - 2);
     return true;
 }
@@ -191,7 +174,7 @@ std::optional<ParsedColor> ParseColor(std::string_view text) {
     if (SplitFunction(text, name, inside)) {
         return ParseFunction(name, inside);
     }
-    std::string lower = Lower(text);
+    std::string lower = AsciiLower(text);
     if (lower == "transparent") {
         return ParsedColor{Color::Rgb(0, 0, 0), 0, false};
     }

@@ -28,19 +28,6 @@ constexpr std::array<UnitName, 9> kUnitNames{{
     {"%", LengthUnit::Percent},
 }};
 
-bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        char x = a[i] >= 'A' && a[i] <= 'Z' ? static_cast<char>(a[i] - 'A' + 'a') : a[i];
-        if (x != b[i]) {
-            return false;
-        }
-    }
-    return true;
-}
-
 }  // namespace
 
 std::optional<Length> ParseLength(std::string_view text) {
@@ -55,7 +42,7 @@ std::optional<Length> ParseLength(std::string_view text) {
         return Length{*value, LengthUnit::None};
     }
     for (const auto& unit : kUnitNames) {
-        if (EqualsIgnoringCase(unitText, unit.name)) {
+        if (AsciiLower(unitText) == unit.name) {
             return Length{*value, unit.unit};
         }
     }
@@ -120,7 +107,7 @@ std::optional<document::RulerUnits> RulerUnitsOf(LengthUnit unit) {
 std::optional<document::RulerUnits> RulerUnitsNamed(std::string_view name) {
     name = TrimSvgSpace(name);
     for (const auto& unit : kUnitNames) {
-        if (EqualsIgnoringCase(name, unit.name)) {
+        if (AsciiLower(name) == unit.name) {
             return RulerUnitsOf(unit.unit);
         }
     }

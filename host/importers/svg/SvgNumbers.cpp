@@ -2,7 +2,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <string>
 #include <system_error>
 
 namespace zm::host::svg {
@@ -67,18 +66,6 @@ std::optional<double> ConvertNumber(std::string_view text) {
 }
 
 }  // namespace
-
-bool IsSvgSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f'; }
-
-std::string_view TrimSvgSpace(std::string_view text) {
-    while (!text.empty() && IsSvgSpace(text.front())) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && IsSvgSpace(text.back())) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
 
 void NumberScanner::SkipSeparators() {
     while (position_ < text_.size() && IsSvgSpace(text_[position_])) {

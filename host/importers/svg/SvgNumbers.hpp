@@ -1,5 +1,7 @@
 #pragma once
 
+#include "importers/svg/SvgSyntax.hpp"
+
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -36,9 +38,5 @@ std::optional<double> ParseNumber(std::string_view text);
 // A list of numbers separated by blanks and commas; stops at the first bad entry, keeping
 // what came before it, as a browser does with a polyline's points.
 std::vector<double> ParseNumberList(std::string_view text);
-
-// Blanks as XML and CSS know them.
-bool IsSvgSpace(char c);
-std::string_view TrimSvgSpace(std::string_view text);
 
 }  // namespace zm::host::svg

@@ -49,6 +49,13 @@ TEST(CssDeclarationsTest, SemicolonsInsideQuotesOrParenthesesDoNotSplit) {
     EXPECT_EQ(declarations[1].value, "url(#a;b)");
 }
 
+TEST(CssDeclarationsTest, CommentMarksInsideStringsAreText) {
+    auto declarations = ParseCssDeclarations(R"(font-family: "/* A */ B"; /* "x" */ fill: red)");
+    ASSERT_EQ(declarations.size(), 2u);
+    EXPECT_EQ(declarations[0].value, R"("/* A */ B")");
+    EXPECT_EQ(declarations[1].property, "fill");
+}
+
 TEST_F(CssStyleSheetTest, IdBeatsClassBeatsType) {
     const char* markup = R"(<svg><rect id="r" class="a"/></svg>)";
     EXPECT_EQ(Value("#r { fill: blue } .a { fill: red } rect { fill: green }", markup, "r"),
