@@ -205,6 +205,14 @@ std::vector<Subpath> SvgArtConverter::Outline(pugi::xml_node element) const {
     return {};
 }
 
+document::Rect SvgArtConverter::BoxBounds(pugi::xml_node element, const Affine& toModel) const {
+    double x = LengthAttribute(element, "x", 0, context_.viewportWidth);
+    double y = LengthAttribute(element, "y", 0, context_.viewportHeight);
+    double width = std::max(0.0, LengthAttribute(element, "width", 0, context_.viewportWidth));
+    double height = std::max(0.0, LengthAttribute(element, "height", 0, context_.viewportHeight));
+    return TransformedBounds(toModel, x, y, x + width, y + height);
+}
+
 document::PathStyle SvgArtConverter::PaintStyle(pugi::xml_node element, const Affine& toModel) {
     const ComputedStyle& style = context_.styles.For(element);
     document::PathStyle paint;

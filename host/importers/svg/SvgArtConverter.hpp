@@ -44,6 +44,10 @@ public:
     // make the importer build without end (references multiply art).
     std::unique_ptr<document::Art> NewArt(document::ArtType type, pugi::xml_node element);
 
+    // The rectangle an element's x, y, width and height attributes give (images, foreign
+    // objects), in model points after the transform.
+    document::Rect BoxBounds(pugi::xml_node element, const Affine& toModel) const;
+
     // fill, stroke, fill rule, stroke width (in points) and brush of an element.
     document::PathStyle PaintStyle(pugi::xml_node element, const Affine& toModel);
 

@@ -1,7 +1,6 @@
 #include "importers/svg/SvgForeignObjectConverter.hpp"
 
 #include "importers/svg/SvgArtConverter.hpp"
-#include "importers/svg/SvgAttributes.hpp"
 #include "importers/svg/SvgTreeWalk.hpp"
 
 #include <algorithm>
@@ -29,11 +28,7 @@ std::unique_ptr<document::Art> ConvertForeignObject(SvgArtConverter& converter,
             content->transparent = true;
         }
     });
-    double x = LengthAttribute(element, "x", 0, context.viewportWidth);
-    double y = LengthAttribute(element, "y", 0, context.viewportHeight);
-    double width = std::max(0.0, LengthAttribute(element, "width", 0, context.viewportWidth));
-    double height = std::max(0.0, LengthAttribute(element, "height", 0, context.viewportHeight));
-    art->bounds = TransformedBounds(toModel, x, y, x + width, y + height);
+    art->bounds = converter.BoxBounds(element, toModel);
     art->foreign = std::move(content);
     return art;
 }

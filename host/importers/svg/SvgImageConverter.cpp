@@ -1,7 +1,6 @@
 #include "importers/svg/SvgImageConverter.hpp"
 
 #include "importers/svg/SvgArtConverter.hpp"
-#include "importers/svg/SvgAttributes.hpp"
 #include "importers/svg/SvgLinks.hpp"
 
 #include <algorithm>
@@ -66,11 +65,7 @@ std::unique_ptr<Art> ConvertImage(SvgArtConverter& converter, pugi::xml_node ele
         image->placedType = HasExtension(image->file, ".eps") ? document::PlacedType::Eps
                                                               : document::PlacedType::Other;
     }
-    double x = LengthAttribute(element, "x", 0, context.viewportWidth);
-    double y = LengthAttribute(element, "y", 0, context.viewportHeight);
-    double width = std::max(0.0, LengthAttribute(element, "width", 0, context.viewportWidth));
-    double height = std::max(0.0, LengthAttribute(element, "height", 0, context.viewportHeight));
-    art->bounds = TransformedBounds(toModel, x, y, x + width, y + height);
+    art->bounds = converter.BoxBounds(element, toModel);
     art->image = std::move(image);
     return art;
 }
