@@ -12,9 +12,7 @@
 
 namespace zm::host {
 
-namespace {
-
-std::string ReadWholeFile(const std::filesystem::path& file) {
+std::string ReadDocumentBytes(const std::filesystem::path& file) {
     std::error_code error;
     if (std::filesystem::is_directory(file, error)) {
         throw DocumentOpenError(file, "it is a folder, not a document");
@@ -31,10 +29,8 @@ std::string ReadWholeFile(const std::filesystem::path& file) {
     return std::move(bytes).str();
 }
 
-}  // namespace
-
 std::unique_ptr<document::Document> ImportDocument(const std::filesystem::path& file) {
-    std::string bytes = ReadWholeFile(file);
+    std::string bytes = ReadDocumentBytes(file);
     if (bytes.empty()) {
         throw DocumentOpenError(file, "the file is empty");
     }

@@ -23,6 +23,10 @@ private:
     std::string reason_;
 };
 
+// The whole content of a document file. Throws DocumentOpenError for a folder or a file that
+// cannot be read.
+std::string ReadDocumentBytes(const std::filesystem::path& file);
+
 // Reads a document file into the model, choosing the importer by the file's content.
 // Throws DocumentOpenError.
 std::unique_ptr<document::Document> ImportDocument(const std::filesystem::path& file);
