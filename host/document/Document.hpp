@@ -57,7 +57,7 @@ struct Document {
     bool highlightSubstitutedGlyphs = false;
     std::map<std::string, DictionaryValue> dictionary;
 
-    // Art: each layer's root group holds its art, layers from the top of the stack.
+    // Art: each layer's root group holds its art; layers in the order the file lists them.
     std::vector<std::unique_ptr<Layer>> layers;
     std::vector<Artboard> artboards;
 
