@@ -8,8 +8,10 @@
 #include "runtime/ContextStack.hpp"
 #include "runtime/DocumentList.hpp"
 #include "runtime/FaultPlan.hpp"
+#include "runtime/HostObjects.hpp"
 #include "runtime/MenuBar.hpp"
 #include "runtime/NotifierCenter.hpp"
+#include "runtime/Preferences.hpp"
 
 #include <string>
 #include <vector>
@@ -46,6 +48,8 @@ public:
     Localizer localizer;
     std::vector<DispatchRecord> dispatches;
     DocumentList documents;
+    Preferences preferences;
+    HostObjects objects;  // what plug-ins hold by handle and give back
     // Last, so that plug-ins still loaded are stopped while everything else still exists.
     PluginManager plugins;
 };

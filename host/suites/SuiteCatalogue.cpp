@@ -12,6 +12,18 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterMenuSuite(registry);
     RegisterNotifierSuite(registry);
     RegisterUnicodeStringSuite(registry);
+    RegisterDocumentSuite(registry);
+    RegisterArtboardSuite(registry);
+    RegisterDictionarySuite(registry);
+    RegisterPreferenceSuite(registry);
+    RegisterFilePathSuite(registry);
+    RegisterCustomColorSuite(registry);
+    RegisterGradientSuite(registry);
+    RegisterPatternSuite(registry);
+    RegisterArtStyleSuite(registry);
+    RegisterArtStyleParserSuite(registry);
+    RegisterBlendStyleSuite(registry);
+    RegisterBrushMgrSuite(registry);
     RegisterPendingSuites(registry);
 }
 

@@ -1,0 +1,48 @@
+#include "suites/ColorRecords.hpp"
+
+#include "document/Resources.hpp"
+
+namespace zm::host {
+
+ZMColor ToColorRecord(const document::Color& color) {
+    ZMColor record{};
+    record.kind = static_cast<int16_t>(color.kind);
+    switch (color.kind) {
+        case document::ColorKind::Gray:
+            record.c.gray.gray = color.gray;
+            break;
+        case document::ColorKind::Cmyk:
+            record.c.four = {color.cmyk[0], color.cmyk[1], color.cmyk[2], color.cmyk[3]};
+            break;
+        case document::ColorKind::Rgb:
+            record.c.three = {color.rgb[0], color.rgb[1], color.rgb[2]};
+            break;
+        case document::ColorKind::Custom:
+            record.c.custom.color = reinterpret_cast<ZMCustomColorHandle>(color.custom);
+            record.c.custom.tint = color.tint;
+            break;
+        case document::ColorKind::Pattern:
+            record.c.pattern = reinterpret_cast<ZMPatternHandle>(color.pattern);
+            break;
+        case document::ColorKind::Gradient:
+            record.c.gradient = reinterpret_cast<ZMGradientHandle>(color.gradient);
+            break;
+        case document::ColorKind::None:
+            break;
+    }
+    return record;
+}
+
+ZMPathStyle ToPathStyleRecord(const document::PathStyle& style) {
+    ZMPathStyle record{};
+    record.fillPaint = style.fillPaint ? 1 : 0;
+    record.fill.color = ToColorRecord(style.fill);
+    record.strokePaint = style.strokePaint ? 1 : 0;
+    record.stroke.color = ToColorRecord(style.stroke);
+    record.stroke.width = style.strokeWidth;
+    record.clip = style.clip ? 1 : 0;
+    record.evenOdd = style.evenOdd ? 1 : 0;
+    return record;
+}
+
+}  // namespace zm::host
