@@ -38,9 +38,9 @@ typedef struct ZMDocumentSetup {
     int32_t reserved[9]; /* zero when read, ignored when written */
 } ZMDocumentSetup;
 
-/* Every entry but 0, 1, 16 and 19 works on the current document and returns
-   ZM_ERR_NO_DOCUMENT when none is open. Documents are ordered as they were opened; the last
-   one is the current one. */
+/* Entries 2-15, 17, 18 and 19 work on the current document and return ZM_ERR_NO_DOCUMENT
+   when none is open. Documents are ordered as they were opened; the last one is the current
+   one. */
 typedef struct ZMDocumentSuite {
     /* 0 */ ZMErr(ZM_API *CountDocuments)(int32_t *count);
     /* 1: ZM_ERR_BAD_ARGUMENT for an index outside 0..count-1. */
