@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/Art.hpp"
+#include "document/ArtStyle.hpp"
 #include "document/Geometry.hpp"
 #include "document/Resources.hpp"
 
@@ -68,6 +69,9 @@ struct Document {
     std::vector<std::unique_ptr<Symbol>> symbols;
     std::vector<std::unique_ptr<Brush>> brushes;
     std::vector<std::unique_ptr<GraphicStyle>> graphicStyles;
+
+    // The art styles the host has handed out for this document's art; they go with it.
+    ArtStyleCache artStyles;
 };
 
 // Dictionary keys the host writes for the document settings of the same meaning.

@@ -1,5 +1,6 @@
 #include "runtime/DocumentList.hpp"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace zm::host {
@@ -14,6 +15,16 @@ document::Document& DocumentList::Add(std::unique_ptr<document::Document> docume
 
 document::Document* DocumentList::Current() const {
     return documents_.empty() ? nullptr : documents_.back().get();
+}
+
+bool DocumentList::MakeCurrent(const document::Document* document) {
+    auto found = std::find_if(documents_.begin(), documents_.end(),
+                              [document](const auto& open) { return open.get() == document; });
+    if (found == documents_.end()) {
+        return false;
+    }
+    std::rotate(found, found + 1, documents_.end());
+    return true;
 }
 
 void DocumentList::CloseCurrent() {

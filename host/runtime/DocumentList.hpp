@@ -2,6 +2,7 @@
 
 #include "document/Document.hpp"
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -16,6 +17,11 @@ public:
     // Closes the current document; nothing happens when none is open.
     void CloseCurrent();
     bool Empty() const { return documents_.empty(); }
+    std::size_t Count() const { return documents_.size(); }
+    // In the order they were opened or made current; the last is the current one.
+    document::Document& At(std::size_t index) const { return *documents_.at(index); }
+    // Makes an open document the current one; false when it is not open.
+    bool MakeCurrent(const document::Document* document);
 
 private:
     std::vector<std::unique_ptr<document::Document>> documents_;

@@ -11,9 +11,11 @@
 #include "runtime/LiveCornersObjects.hpp"
 #include "runtime/MaskReferences.hpp"
 #include "runtime/MemoryHandles.hpp"
+#include "runtime/HostObjects.hpp"
 #include "runtime/MenuBar.hpp"
 #include "runtime/NamedPlugins.hpp"
 #include "runtime/NotifierCenter.hpp"
+#include "runtime/Preferences.hpp"
 
 #include <string>
 #include <vector>
@@ -54,6 +56,8 @@ public:
     MaskReferences masks;
     NamedPlugins namedPlugins;
     LiveCornersObjects liveCorners;
+    Preferences preferences;
+    HostObjects objects;  // what plug-ins hold by handle and give back
     // Last, so that plug-ins still loaded are stopped while everything else still exists.
     PluginManager plugins;
 };

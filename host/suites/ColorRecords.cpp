@@ -48,4 +48,16 @@ ZMColor ToColorRecord(const document::Color& color) {
     return record;
 }
 
+ZMPathStyle ToPathStyleRecord(const document::PathStyle& style) {
+    ZMPathStyle record{};
+    record.fillPaint = style.fillPaint ? 1 : 0;
+    record.fill.color = ToColorRecord(style.fill);
+    record.strokePaint = style.strokePaint ? 1 : 0;
+    record.stroke.color = ToColorRecord(style.stroke);
+    record.stroke.width = style.strokeWidth;
+    record.clip = style.clip ? 1 : 0;
+    record.evenOdd = style.evenOdd ? 1 : 0;
+    return record;
+}
+
 }  // namespace zm::host

@@ -1,13 +1,16 @@
 #pragma once
 
-#include <zelmora/ZMArtTypes.h>
-
 #include "document/Paint.hpp"
+
+#include <zelmora/ZMArtTypes.h>
 
 namespace zm::host {
 
-// The SDK's colour record of a model colour. The kinds share their codes; custom colours,
-// patterns and gradients are named by the model objects' addresses.
+// A model colour as the suites hand it out: kind by its code, components copied, resources
+// named by the model objects' addresses.
 ZMColor ToColorRecord(const document::Color& color);
+
+// A model path style as the suites hand it out. Overprint is never set: the model has none.
+ZMPathStyle ToPathStyleRecord(const document::PathStyle& style);
 
 }  // namespace zm::host

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <zelmora/ZMTypes.h>
-
 #include "document/Document.hpp"
 #include "runtime/HostError.hpp"
 #include "runtime/Runtime.hpp"
+
+#include <zelmora/ZMTypes.h>
 
 namespace zm::host {
 
@@ -16,5 +16,7 @@ inline document::Document& CurrentDocument(Runtime& runtime) {
     }
     return *current;
 }
+
+inline document::Document& RequireCurrentDocument() { return CurrentDocument(Runtime::Current()); }
 
 }  // namespace zm::host

@@ -10,18 +10,6 @@ namespace zm::host {
 
 namespace {
 
-ZMPathStyle ToPathStyleRecord(const document::PathStyle& style) {
-    ZMPathStyle record{};
-    record.fillPaint = style.fillPaint ? 1 : 0;
-    record.fill.color = ToColorRecord(style.fill);
-    record.strokePaint = style.strokePaint ? 1 : 0;
-    record.stroke.color = ToColorRecord(style.stroke);
-    record.stroke.width = style.strokeWidth;
-    record.clip = style.clip ? 1 : 0;
-    record.evenOdd = style.evenOdd ? 1 : 0;
-    return record;
-}
-
 ZMErr ZM_API GetPathStyle(ZMArtHandle art, ZMPathStyle* style) {
     return GuardSuiteCall(ZM_PATH_STYLE_SUITE_NAME, 0, [&](Runtime& runtime) {
         CurrentDocument(runtime);

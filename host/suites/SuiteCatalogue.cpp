@@ -29,6 +29,18 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterLiveCornersSuite(registry);
     RegisterRealMathSuite(registry);
     RegisterVectorizeSuite(registry);
+    RegisterDocumentSuite(registry);
+    RegisterArtboardSuite(registry);
+    RegisterDictionarySuite(registry);
+    RegisterPreferenceSuite(registry);
+    RegisterFilePathSuite(registry);
+    RegisterCustomColorSuite(registry);
+    RegisterGradientSuite(registry);
+    RegisterPatternSuite(registry);
+    RegisterArtStyleSuite(registry);
+    RegisterArtStyleParserSuite(registry);
+    RegisterBlendStyleSuite(registry);
+    RegisterBrushMgrSuite(registry);
     RegisterPendingSuites(registry);
 }
 

@@ -29,6 +29,18 @@ void RegisterLiveShapesSuite(SuiteRegistry& registry);
 void RegisterLiveCornersSuite(SuiteRegistry& registry);
 void RegisterRealMathSuite(SuiteRegistry& registry);
 void RegisterVectorizeSuite(SuiteRegistry& registry);
+void RegisterDocumentSuite(SuiteRegistry& registry);
+void RegisterArtboardSuite(SuiteRegistry& registry);
+void RegisterDictionarySuite(SuiteRegistry& registry);
+void RegisterPreferenceSuite(SuiteRegistry& registry);
+void RegisterFilePathSuite(SuiteRegistry& registry);
+void RegisterCustomColorSuite(SuiteRegistry& registry);
+void RegisterGradientSuite(SuiteRegistry& registry);
+void RegisterPatternSuite(SuiteRegistry& registry);
+void RegisterArtStyleSuite(SuiteRegistry& registry);
+void RegisterArtStyleParserSuite(SuiteRegistry& registry);
+void RegisterBlendStyleSuite(SuiteRegistry& registry);
+void RegisterBrushMgrSuite(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host

@@ -7,6 +7,7 @@
 #include <unicode/unistr.h>
 
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace zm::host {
@@ -49,6 +50,14 @@ inline std::string ToUtf8(ZMUnicodeString handle) {
     std::string text;
     Read(handle).toUTF8String(text);
     return text;
+}
+
+// Writes UTF-8 text from the host into a string the caller made.
+inline void AssignUtf8(ZMUnicodeString handle, std::string_view utf8) {
+    icu::UnicodeString& target = Deref(handle);
+    target = icu::UnicodeString::fromUTF8(
+        icu::StringPiece(utf8.data(), static_cast<int32_t>(utf8.size())));
+    RequireUsable(target);
 }
 
 }  // namespace zm::host

@@ -128,6 +128,16 @@ static_assert(offsetof(ZMUserSuite, WarningAlert) == 37 * 8);
 static_assert(offsetof(ZMUserSuite, ErrorAlert) == 41 * 8);
 static_assert(offsetof(ZMUserSuite, MessageAlert) == 42 * 8);
 
+static_assert(offsetof(ZMDocumentSuite, GetDocument) == 19 * 8);
+
+// Records of the document and paint suites.
+static_assert(sizeof(ZMDocumentSetup) == 56);
+static_assert(offsetof(ZMDocumentSetup, showPlacedImages) == 16);
+static_assert(sizeof(ZMCustomColor) == 48);
+static_assert(offsetof(ZMCustomColor, flags) == 40);
+static_assert(sizeof(ZMGradientStop) == 64);
+static_assert(offsetof(ZMGradientStop, color) == 24);
+
 // Framework records.
 static_assert(offsetof(ZMPluginDescription, name) == 0);
 static_assert(offsetof(ZMPluginDescription, version) == 8);

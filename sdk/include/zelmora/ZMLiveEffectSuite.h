@@ -9,6 +9,9 @@ extern "C" {
 #define ZM_LIVE_EFFECT_SUITE_NAME    "ZM Live Effect Suite"
 #define ZM_LIVE_EFFECT_SUITE_VERSION 6
 
+/* One effect on a paint of an art style; valid while its document is open. */
+typedef struct ZMLiveEffectOpaque *ZMLiveEffectHandle;
+
 #ifdef __cplusplus
 }
 #endif
