@@ -4,3 +4,5 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
 build/out/bin/zelmora plugins
+build/out/bin/zelmora docinfo samples/poster.svg
+echo "samples/poster.svg opened and closed"
