@@ -1,8 +1,7 @@
 #pragma once
 
-#include <lcms2.h>
-
 #include <gtest/gtest.h>
+#include <lcms2.h>
 
 #include <filesystem>
 

@@ -1,23 +1,21 @@
 #pragma once
 
-#include "SvgFixtures.hpp"
-#include "host/suites/DocumentSuiteFixture.hpp"
-
-#include <importers/svg/SvgImporter.hpp>
-#include <suites/DictionaryObject.hpp>
-#include <suites/TextResourcesObject.hpp>
-
+#include <gtest/gtest.h>
 #include <zelmora/ZMArtSuite.h>
 #include <zelmora/ZMLayerSuite.h>
 #include <zelmora/ZMMatchingArtSuite.h>
 #include <zelmora/ZMMdMemorySuite.h>
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
+#include <importers/svg/SvgImporter.hpp>
 #include <string>
 #include <string_view>
+#include <suites/DictionaryObject.hpp>
+#include <suites/TextResourcesObject.hpp>
 #include <vector>
+
+#include "SvgFixtures.hpp"
+#include "host/suites/DocumentSuiteFixture.hpp"
 
 namespace zm::test {
 
@@ -61,10 +59,10 @@ protected:
         EXPECT_EQ(layerLists->GetCurrentLayerList(&list), ZM_ERR_NONE);
         ZMMdMemoryHandle matches = nullptr;
         int32_t count = -1;
-        EXPECT_EQ(matching->GetMatchingArtOfLayerList(list, criteria.data(),
-                                                      static_cast<int32_t>(criteria.size()),
-                                                      &matches, &count),
-                  ZM_ERR_NONE);
+        EXPECT_EQ(
+            matching->GetMatchingArtOfLayerList(
+                list, criteria.data(), static_cast<int32_t>(criteria.size()), &matches, &count),
+            ZM_ERR_NONE);
         return Read(matches, count);
     }
 

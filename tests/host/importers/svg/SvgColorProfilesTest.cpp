@@ -1,14 +1,12 @@
-#include "IccProfileFiles.hpp"
-#include "SvgFixtures.hpp"
-
-#include <support/ScratchFolder.hpp>
-
-#include <lcms2.h>
-
 #include <gtest/gtest.h>
+#include <lcms2.h>
 
 #include <fstream>
 #include <string>
+#include <support/ScratchFolder.hpp>
+
+#include "IccProfileFiles.hpp"
+#include "SvgFixtures.hpp"
 
 namespace zm::test {
 namespace {

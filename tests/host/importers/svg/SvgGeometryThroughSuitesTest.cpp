@@ -1,13 +1,12 @@
-#include "ImportedDocumentFixture.hpp"
-
+#include <gtest/gtest.h>
 #include <zelmora/ZMLiveShapesSuite.h>
 #include <zelmora/ZMPathSuite.h>
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <string>
 #include <vector>
+
+#include "ImportedDocumentFixture.hpp"
 
 namespace zm::test {
 namespace {
@@ -115,15 +114,15 @@ TEST_F(SvgShapesThroughSuitesTest, AnchorCountsAndClosedFlagsPerShape) {
         bool closed;
     };
     for (const Row& row : {
-             Row{"rect", 4, true},      // a rect's corners
-             Row{"rounded", 8, true},   // both ends of each corner's arc
-             Row{"circle", 4, true},    // four quarter arcs
-             Row{"ellipse", 4, true},   // the same
-             Row{"line", 2, false},     // its two ends
-             Row{"polyline", 4, false}, // one per point
-             Row{"polygon", 3, true},   // one per point, closed
-             Row{"triangle", 3, true},  // three on-curve points, Z closes back to the first
-             Row{"open", 2, false},     // one cubic: its two ends
+             Row{"rect", 4, true},       // a rect's corners
+             Row{"rounded", 8, true},    // both ends of each corner's arc
+             Row{"circle", 4, true},     // four quarter arcs
+             Row{"ellipse", 4, true},    // the same
+             Row{"line", 2, false},      // its two ends
+             Row{"polyline", 4, false},  // one per point
+             Row{"polygon", 3, true},    // one per point, closed
+             Row{"triangle", 3, true},   // three on-curve points, Z closes back to the first
+             Row{"open", 2, false},      // one cubic: its two ends
          }) {
         ZMArtHandle path = ArtNamed(row.name);
         EXPECT_EQ(SegmentCount(path), row.segments) << row.name;
@@ -276,8 +275,7 @@ TEST_F(SvgLiveShapesThroughSuitesTest, ARectWithRxHasFourRoundCornersOfThatRadiu
     EXPECT_EQ(SegmentCount(plain), 8);  // rounded
     // rx 2 px is 1.5 pt.
     EXPECT_EQ(CornersOf(plain, ZM_LIVE_CORNERS_FROM_LIVE_SHAPE),
-              (std::vector<CornerRead>(4, CornerRead{ZM_CORNER_ROUND, ZM_ROUNDING_ABSOLUTE,
-                                                     1.5})));
+              (std::vector<CornerRead>(4, CornerRead{ZM_CORNER_ROUND, ZM_ROUNDING_ABSOLUTE, 1.5})));
 }
 
 TEST_F(SvgLiveShapesThroughSuitesTest, PerCornerAttributesReadBackCornerByCorner) {
@@ -291,9 +289,9 @@ TEST_F(SvgLiveShapesThroughSuitesTest, PerCornerAttributesReadBackCornerByCorner
 
 TEST_F(SvgLiveShapesThroughSuitesTest, APolygonPathHasOneCornerPerPoint) {
     // Three points, each rounded by 3 px = 2.25 pt.
-    EXPECT_EQ(CornersOf(ArtNamed("poly"), ZM_LIVE_CORNERS_FROM_LIVE_SHAPE),
-              (std::vector<CornerRead>(3, CornerRead{ZM_CORNER_ROUND, ZM_ROUNDING_ABSOLUTE,
-                                                     2.25})));
+    EXPECT_EQ(
+        CornersOf(ArtNamed("poly"), ZM_LIVE_CORNERS_FROM_LIVE_SHAPE),
+        (std::vector<CornerRead>(3, CornerRead{ZM_CORNER_ROUND, ZM_ROUNDING_ABSOLUTE, 2.25})));
 }
 
 TEST_F(SvgLiveShapesThroughSuitesTest, AnEllipseHasNoCorners) {

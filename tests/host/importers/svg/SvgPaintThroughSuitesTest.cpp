@@ -1,5 +1,4 @@
-#include "ImportedDocumentFixture.hpp"
-
+#include <gtest/gtest.h>
 #include <zelmora/ZMArtStyleSuite.h>
 #include <zelmora/ZMBlendStyleSuite.h>
 #include <zelmora/ZMBrushMgrSuite.h>
@@ -8,10 +7,10 @@
 #include <zelmora/ZMMeshSuite.h>
 #include <zelmora/ZMPathStyleSuite.h>
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
+
+#include "ImportedDocumentFixture.hpp"
 
 namespace zm::test {
 namespace {
@@ -290,8 +289,7 @@ TEST_F(SvgStylesThroughSuitesTest, AnExplicitGraphicStyleBeatsTheClass) {
 }
 
 TEST_F(SvgStylesThroughSuitesTest, ArtWithoutAClassHasAnAnonymousStyle) {
-    EXPECT_EQ(NameOfStyle(ArtStyleOf(ArtNamed("plain"))),
-              (std::pair<std::string, bool>{"", true}));
+    EXPECT_EQ(NameOfStyle(ArtStyleOf(ArtNamed("plain"))), (std::pair<std::string, bool>{"", true}));
 }
 
 TEST_F(SvgStylesThroughSuitesTest, ABrushOnTheStrokeIsFoundThroughTheParsedStylesEffect) {

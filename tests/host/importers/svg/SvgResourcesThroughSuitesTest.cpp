@@ -1,5 +1,4 @@
-#include "ImportedDocumentFixture.hpp"
-
+#include <gtest/gtest.h>
 #include <zelmora/HVPluginsSuite.h>
 #include <zelmora/ZMCustomColorSuite.h>
 #include <zelmora/ZMGradientSuite.h>
@@ -8,10 +7,10 @@
 #include <zelmora/ZMPluginGroupSuite.h>
 #include <zelmora/ZMSymbolSuite.h>
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
+
+#include "ImportedDocumentFixture.hpp"
 
 namespace zm::test {
 namespace {
@@ -206,7 +205,7 @@ TEST_F(SvgResourcesFileThroughSuitesTest, StopsInOffsetOrderWithTheirColours) {
     EXPECT_EQ(stops[1].offset, 0.5);  // 50%
     EXPECT_EQ(stops[1].color.kind, ZM_COLOR_CUSTOM);
     EXPECT_EQ(stops[1].color.c.custom.color, Swatch(0));  // url(#spot1)
-    EXPECT_EQ(stops[2].offset, 0.5);  // 0.3 after 0.5 is raised to it
+    EXPECT_EQ(stops[2].offset, 0.5);                      // 0.3 after 0.5 is raised to it
     EXPECT_EQ(stops[2].opacity, 0.5);
     for (const ZMGradientStop& stop : stops) {
         EXPECT_EQ(stop.midpoint, 0.5);  // colours blend evenly between stops

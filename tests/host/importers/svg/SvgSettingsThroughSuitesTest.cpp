@@ -1,21 +1,18 @@
-#include "IccProfileFiles.hpp"
-#include "ImportedDocumentFixture.hpp"
-
-#include <document/Document.hpp>
-#include <support/ScratchFolder.hpp>
-
+#include <gtest/gtest.h>
+#include <lcms2.h>
 #include <zelmora/ZMArtboardSuite.h>
 #include <zelmora/ZMDictionarySuite.h>
 #include <zelmora/ZMDocumentSuite.h>
 #include <zelmora/ZMFilePathSuite.h>
 
-#include <lcms2.h>
-
-#include <gtest/gtest.h>
-
+#include <document/Document.hpp>
 #include <fstream>
 #include <string>
+#include <support/ScratchFolder.hpp>
 #include <vector>
+
+#include "IccProfileFiles.hpp"
+#include "ImportedDocumentFixture.hpp"
 
 namespace zm::test {
 namespace {
@@ -148,8 +145,8 @@ TEST_F(SvgSettingsFileThroughSuitesTest, TheSetupIsThePageInPoints) {
     ZMDocumentSetup setup = PageSetup();
     EXPECT_NEAR(setup.width, 210 * kMillimetre, 1e-9);   // 595.28 pt
     EXPECT_NEAR(setup.height, 297 * kMillimetre, 1e-9);  // 841.89 pt
-    EXPECT_EQ(setup.showPlacedImages, 1);                 // zm:show-placed-images="true"
-    EXPECT_EQ(Units(), ZM_UNITS_MILLIMETERS);             // the unit of width
+    EXPECT_EQ(setup.showPlacedImages, 1);                // zm:show-placed-images="true"
+    EXPECT_EQ(Units(), ZM_UNITS_MILLIMETERS);            // the unit of width
     ZMRealRect page{};
     ASSERT_EQ(documents->GetDocumentPageBounds(&page), ZM_ERR_NONE);
     ExpectRect(page, 0, 297 * kMillimetre, 210 * kMillimetre, 0);
@@ -157,8 +154,7 @@ TEST_F(SvgSettingsFileThroughSuitesTest, TheSetupIsThePageInPoints) {
 
 TEST_F(SvgSettingsFileThroughSuitesTest, SettingsWithoutAFieldOfTheirOwnAreDictionaryEntries) {
     ZMBool value = -1;
-    ASSERT_EQ(DictionaryBoolean(host::document::kPreserveTextEditabilityKey, &value),
-              ZM_ERR_NONE);
+    ASSERT_EQ(DictionaryBoolean(host::document::kPreserveTextEditabilityKey, &value), ZM_ERR_NONE);
     EXPECT_EQ(value, 0);  // zm:preserve-text-editability="false"
     ASSERT_EQ(DictionaryBoolean(host::document::kPaperSimulationKey, &value), ZM_ERR_NONE);
     EXPECT_EQ(value, 1);  // zm:paper-simulation="true"
@@ -219,8 +215,7 @@ TEST_F(SvgSettingsThroughSuitesTest, AnUnreadablePreserveTextEditabilityIsTrue) 
     ImportText(R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:zm="https://zelmora.example/ns/1.0"
                       zm:preserve-text-editability="perhaps"/>)");
     ZMBool value = -1;
-    ASSERT_EQ(DictionaryBoolean(host::document::kPreserveTextEditabilityKey, &value),
-              ZM_ERR_NONE);
+    ASSERT_EQ(DictionaryBoolean(host::document::kPreserveTextEditabilityKey, &value), ZM_ERR_NONE);
     EXPECT_EQ(value, 1);  // its default
 }
 

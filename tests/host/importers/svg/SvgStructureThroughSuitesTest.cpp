@@ -1,12 +1,11 @@
-#include "ImportedDocumentFixture.hpp"
-
+#include <gtest/gtest.h>
 #include <zelmora/ZMArtSuite.h>
 #include <zelmora/ZMLayerSuite.h>
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
+
+#include "ImportedDocumentFixture.hpp"
 
 namespace zm::test {
 namespace {
@@ -38,9 +37,9 @@ TEST_F(SvgStructureThroughSuitesTest, AnyArtWithoutCompoundMembersInDocumentOrde
 TEST_F(SvgStructureThroughSuitesTest, AnEmptyMaskMatchesTheCompoundMembersToo) {
     // The ring's two subpaths follow it as its unnamed members.
     EXPECT_EQ(NamesOf(Match({{ZM_ART_ANY, 0, 0, 0}})),
-              (Names{"Pair", "box", "ring", "", "", "caption", "", "pane", "framed", "note",
-                     "blend", "", "dot", "stamp", "photo", "linked", "chart", "graph", "meshed",
-                     "label"}));
+              (Names{"Pair",  "box",    "ring",  "",      "",       "caption", "",
+                     "pane",  "framed", "note",  "blend", "",       "dot",     "stamp",
+                     "photo", "linked", "chart", "graph", "meshed", "label"}));
 }
 
 TEST_F(SvgStructureThroughSuitesTest, SelectingAGroupThroughTheArtSuiteSelectsWhatItHolds) {
@@ -85,8 +84,8 @@ TEST_F(SvgStructureThroughSuitesTest, TheMemberBitCannotBeSet) {
 
 TEST_F(SvgStructureThroughSuitesTest, TextFramesAndForeignObjectsAtOnce) {
     // Point text in each layer, the foreign object between them in document order.
-    EXPECT_EQ(NamesOf(Match({{ZM_ART_TEXT_FRAME, 0, kMember, 0},
-                             {ZM_ART_FOREIGN_OBJECT, 0, kMember, 0}})),
+    EXPECT_EQ(NamesOf(Match(
+                  {{ZM_ART_TEXT_FRAME, 0, kMember, 0}, {ZM_ART_FOREIGN_OBJECT, 0, kMember, 0}})),
               (Names{"caption", "note", "label"}));
 }
 
@@ -96,20 +95,20 @@ TEST_F(SvgStructureThroughSuitesTest, EachElementHasTheTypeOfItsRow) {
         ZMArtType type;
     };
     for (const Row& row : {
-             Row{"Pair", ZM_ART_GROUP},                // <g>
-             Row{"box", ZM_ART_PATH},                  // <rect>
-             Row{"ring", ZM_ART_COMPOUND_PATH},        // two subpaths
-             Row{"caption", ZM_ART_TEXT_FRAME},        // <text>
-             Row{"pane", ZM_ART_PATH},                 // the clipping rect
-             Row{"note", ZM_ART_FOREIGN_OBJECT},       // <foreignObject>
-             Row{"blend", ZM_ART_PLUGIN_GROUP},        // zm:plugin
-             Row{"dot", ZM_ART_PATH},                  // <circle>
-             Row{"stamp", ZM_ART_SYMBOL_INSTANCE},     // <use>
-             Row{"photo", ZM_ART_RASTER},              // a data: image
-             Row{"linked", ZM_ART_PLACED},             // a linked file, missing here
-             Row{"chart", ZM_ART_CHART},               // zm:chart
-             Row{"graph", ZM_ART_UNKNOWN},             // zm:graph
-             Row{"meshed", ZM_ART_MESH},               // a mesh gradient fill
+             Row{"Pair", ZM_ART_GROUP},             // <g>
+             Row{"box", ZM_ART_PATH},               // <rect>
+             Row{"ring", ZM_ART_COMPOUND_PATH},     // two subpaths
+             Row{"caption", ZM_ART_TEXT_FRAME},     // <text>
+             Row{"pane", ZM_ART_PATH},              // the clipping rect
+             Row{"note", ZM_ART_FOREIGN_OBJECT},    // <foreignObject>
+             Row{"blend", ZM_ART_PLUGIN_GROUP},     // zm:plugin
+             Row{"dot", ZM_ART_PATH},               // <circle>
+             Row{"stamp", ZM_ART_SYMBOL_INSTANCE},  // <use>
+             Row{"photo", ZM_ART_RASTER},           // a data: image
+             Row{"linked", ZM_ART_PLACED},          // a linked file, missing here
+             Row{"chart", ZM_ART_CHART},            // zm:chart
+             Row{"graph", ZM_ART_UNKNOWN},          // zm:graph
+             Row{"meshed", ZM_ART_MESH},            // a mesh gradient fill
          }) {
         EXPECT_EQ(TypeOf(ArtNamed(row.name)), row.type) << row.name;
     }
@@ -129,7 +128,7 @@ TEST_F(SvgStructureThroughSuitesTest, OnlyTheGraphIsAGraph) {
 TEST_F(SvgStructureThroughSuitesTest, TheTreeReadsThroughParentsChildrenAndSiblings) {
     ZMArtHandle first = nullptr;
     ASSERT_EQ(art->GetFirstArtOfDocument(&first), ZM_ERR_NONE);
-    EXPECT_EQ(NameOf(first), "Pair");  // the first art of the topmost layer, "Front"
+    EXPECT_EQ(NameOf(first), "Pair");   // the first art of the topmost layer, "Front"
     EXPECT_EQ(Parent(first), nullptr);  // the layer's own group is not art
     ZMArtHandle box = FirstChild(first);
     EXPECT_EQ(NameOf(box), "box");
@@ -199,7 +198,7 @@ TEST_F(SvgStructureThroughSuitesTest, BoundsAreInPointsWithYUpFromTheBottom) {
 TEST_F(SvgStructureThroughSuitesTest, ArtIsNamedByItsLabelElseItsId) {
     ZMArtHandle first = nullptr;
     ASSERT_EQ(art->GetFirstArtOfDocument(&first), ZM_ERR_NONE);
-    EXPECT_EQ(NameOf(first), "Pair");              // inkscape:label beats the id "pair"
+    EXPECT_EQ(NameOf(first), "Pair");             // inkscape:label beats the id "pair"
     EXPECT_EQ(NameOf(FirstChild(first)), "box");  // no label: the id
 }
 
