@@ -28,7 +28,7 @@ protected:
 TEST_F(SvgStructureThroughSuitesTest, AnyArtWithoutCompoundMembersInDocumentOrder) {
     // Pre-order, "Front" first: the clip group before its clipping path and the clipped rect;
     // the plug-in group before its result group and what that holds. The chart and the graph
-    // keep no members; symbols, the clip path's definition and the mesh are no art here.
+    // keep no members; what <defs> holds (the symbol, the mesh gradient) is no art here.
     EXPECT_EQ(NamesOf(Match({{ZM_ART_ANY, 0, kMember, 0}})),
               (Names{"Pair", "box", "ring", "caption", "", "pane", "framed", "note", "blend", "",
                      "dot", "stamp", "photo", "linked", "chart", "graph", "meshed", "label"}));
