@@ -1,27 +1,15 @@
-#include "SvgFixtures.hpp"
-
-#include <support/ScratchFolder.hpp>
-
-#include <lcms2.h>
-
 #include <gtest/gtest.h>
+#include <lcms2.h>
 
 #include <fstream>
 #include <string>
+#include <support/ScratchFolder.hpp>
+
+#include "IccProfileFiles.hpp"
+#include "SvgFixtures.hpp"
 
 namespace zm::test {
 namespace {
-
-// Writes a profile with that description; Little CMS owns and frees it.
-void SaveProfile(cmsHPROFILE profile, const char* description, const std::filesystem::path& file) {
-    ASSERT_NE(profile, nullptr);
-    cmsMLU* text = cmsMLUalloc(nullptr, 1);
-    cmsMLUsetASCII(text, "en", "US", description);
-    cmsWriteTag(profile, cmsSigProfileDescriptionTag, text);
-    cmsMLUfree(text);
-    EXPECT_TRUE(cmsSaveProfileToFile(profile, file.string().c_str()));
-    cmsCloseProfile(profile);
-}
 
 TEST(SvgColorProfilesTest, EachProfileFillsTheSlotOfItsColourSpace) {
     ScratchFolder scratch;
