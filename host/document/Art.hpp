@@ -81,7 +81,8 @@ public:
     std::vector<Color> meshColors;         // a mesh's colours, in order
     std::unique_ptr<ForeignContent> foreign;
     std::optional<LiveShape> liveShape;
-    // Bounds of art without path geometry of its own (images, text, foreign objects).
+    // Bounds of art without path geometry of its own (images, text, foreign objects, symbol
+    // instances: the definition where the instance places it).
     std::optional<Rect> bounds;
 
 private:

@@ -89,33 +89,39 @@ void AddCurve(Point p0, Point p1, Point p2, Point p3, Extent& extent) {
 
 bool IsClippingPath(const Art& art) { return art.style.clip; }
 
-}  // namespace
-
-std::optional<Rect> PathBounds(const PathGeometry& path) {
+// PathBounds and ArtBounds with every point moved by map first.
+std::optional<Rect> MappedPathBounds(const PathGeometry& path, const PointMap& map) {
     const std::vector<Segment>& segments = path.segments;
     if (segments.empty()) {
         return std::nullopt;
     }
     Extent extent;
-    extent.Add(segments.front().anchor);
+    extent.Add(map(segments.front().anchor));
     std::size_t pieces = path.closed ? segments.size() : segments.size() - 1;
     for (std::size_t i = 0; i < pieces; ++i) {
         const Segment& from = segments[i];
         const Segment& to = segments[(i + 1) % segments.size()];
-        AddCurve(from.anchor, from.out, to.in, to.anchor, extent);
+        AddCurve(map(from.anchor), map(from.out), map(to.in), map(to.anchor), extent);
     }
     return extent.Result();
 }
 
-std::optional<Rect> ArtBounds(const Art& art) {
+std::optional<Rect> MappedArtBounds(const Art& art, const PointMap& map) {
     if (art.bounds) {
-        return art.bounds;
+        Extent extent;
+        for (Point corner : {Point{art.bounds->left, art.bounds->top},
+                             Point{art.bounds->right, art.bounds->top},
+                             Point{art.bounds->right, art.bounds->bottom},
+                             Point{art.bounds->left, art.bounds->bottom}}) {
+            extent.Add(map(corner));
+        }
+        return extent.Result();
     }
     if (art.Type() == ArtType::Path) {
-        return PathBounds(art.path);
+        return MappedPathBounds(art.path, map);
     }
     if (art.Type() == ArtType::TextFrame && art.text && art.text->framePath) {
-        return ArtBounds(*art.text->framePath);
+        return MappedArtBounds(*art.text->framePath, map);
     }
     const auto& children = art.Children();
     bool clipped = art.clipGroup && std::any_of(children.begin(), children.end(),
@@ -125,10 +131,22 @@ std::optional<Rect> ArtBounds(const Art& art) {
     Extent extent;
     for (const auto& child : children) {
         if (!clipped || IsClippingPath(*child)) {
-            extent.Add(ArtBounds(*child));
+            extent.Add(MappedArtBounds(*child, map));
         }
     }
     return extent.Result();
+}
+
+Point Unmoved(const Point& p) { return p; }
+
+}  // namespace
+
+std::optional<Rect> PathBounds(const PathGeometry& path) { return MappedPathBounds(path, Unmoved); }
+
+std::optional<Rect> ArtBounds(const Art& art) { return MappedArtBounds(art, Unmoved); }
+
+std::optional<Rect> ArtBoundsAfter(const Art& art, const PointMap& map) {
+    return MappedArtBounds(art, map);
 }
 
 }  // namespace zm::host::document

@@ -1,5 +1,6 @@
 #include "importers/svg/CssStyleSheet.hpp"
 
+#include "importers/svg/CssFontShorthand.hpp"
 #include "importers/svg/SvgNumbers.hpp"
 
 #include <algorithm>
@@ -96,44 +97,169 @@ std::optional<std::string> ReadIdent(std::string_view text, std::size_t& i) {
     return std::string(text.substr(start, i - start));
 }
 
+void SkipBlanks(std::string_view text, std::size_t& i) {
+    while (i < text.size() && IsSvgSpace(text[i])) {
+        ++i;
+    }
+}
+
+// A quoted string (backslashes escape the next character) or an identifier.
+std::optional<std::string> ReadValue(std::string_view text, std::size_t& i) {
+    if (i < text.size() && IsQuote(text[i])) {
+        std::size_t close = EndOfString(text, i);
+        if (close >= text.size()) {
+            return std::nullopt;  // an unclosed string
+        }
+        std::string value;
+        for (std::size_t k = i + 1; k < close; ++k) {
+            if (text[k] == '\\' && k + 1 < close) ++k;
+            value += text[k];
+        }
+        i = close + 1;
+        return value;
+    }
+    return ReadIdent(text, i);
+}
+
+// "[name op value flag]" from the opening bracket at i.
+std::optional<CssAttributeTest> ReadAttributeTest(std::string_view text, std::size_t& i) {
+    ++i;  // '['
+    SkipBlanks(text, i);
+    CssAttributeTest test;
+    auto name = ReadIdent(text, i);
+    if (!name) {
+        return std::nullopt;
+    }
+    test.name = *name;
+    SkipBlanks(text, i);
+    if (i < text.size() && text[i] != ']') {
+        if (text[i] == '=') {
+            test.match = '=';
+            ++i;
+        } else if (std::string_view("~|^$*").find(text[i]) != std::string_view::npos &&
+                   i + 1 < text.size() && text[i + 1] == '=') {
+            test.match = text[i];
+            i += 2;
+        } else {
+            return std::nullopt;
+        }
+        SkipBlanks(text, i);
+        auto value = ReadValue(text, i);
+        if (!value) {
+            return std::nullopt;
+        }
+        test.value = *value;
+        SkipBlanks(text, i);
+        if (i < text.size() && (text[i] == 'i' || text[i] == 'I' || text[i] == 's' ||
+                                text[i] == 'S')) {
+            test.ignoreCase = text[i] == 'i' || text[i] == 'I';
+            ++i;
+            SkipBlanks(text, i);
+        }
+    }
+    if (i >= text.size() || text[i] != ']') {
+        return std::nullopt;
+    }
+    ++i;
+    return test;
+}
+
+bool IsSimpleStart(char c) { return c == '.' || c == '#' || c == '[' || c == ':'; }
+
+// The simple selectors after the type: .class, #id, [attribute], :first-child, :not(...).
+// allowNot is false inside :not(), which takes no :not() of its own.
+bool ReadSimpleSelector(std::string_view text, std::size_t& i, CssCompoundSelector& compound,
+                        bool allowNot);
+
+// One compound: an optional type or '*', then simple selectors. Nothing read is an error.
+std::optional<CssCompoundSelector> ReadCompound(std::string_view text, std::size_t& i,
+                                               bool allowNot) {
+    CssCompoundSelector compound;
+    bool any = false;
+    if (i < text.size() && text[i] == '*') {
+        compound.type = "*";
+        ++i;
+        any = true;
+    } else if (i < text.size() && IsIdentChar(text[i])) {
+        compound.type = *ReadIdent(text, i);
+        any = true;
+    }
+    while (i < text.size() && IsSimpleStart(text[i])) {
+        if (!ReadSimpleSelector(text, i, compound, allowNot)) {
+            return std::nullopt;
+        }
+        any = true;
+    }
+    if (!any) {
+        return std::nullopt;
+    }
+    return compound;
+}
+
+bool ReadSimpleSelector(std::string_view text, std::size_t& i, CssCompoundSelector& compound,
+                        bool allowNot) {
+    char kind = text[i];
+    if (kind == '[') {
+        auto test = ReadAttributeTest(text, i);
+        if (!test) return false;
+        compound.attributes.push_back(std::move(*test));
+        return true;
+    }
+    ++i;
+    auto name = ReadIdent(text, i);
+    if (!name) {
+        return false;  // also "::", a pseudo-element
+    }
+    if (kind == '.') {
+        compound.classes.push_back(*name);
+    } else if (kind == '#') {
+        if (compound.id.empty()) {
+            compound.id = *name;
+        } else if (compound.id != *name) {
+            compound.id = "\x01";  // two different ids: matches nothing
+        }
+    } else if (AsciiLower(*name) == "first-child") {
+        compound.firstChild = true;
+    } else if (AsciiLower(*name) == "not" && allowNot && i < text.size() && text[i] == '(') {
+        std::size_t close = FindTopLevel(text, i + 1, ")");
+        if (close == std::string_view::npos) {
+            return false;
+        }
+        std::string_view argument = TrimSvgSpace(text.substr(i + 1, close - i - 1));
+        std::size_t k = 0;
+        auto negation = ReadCompound(argument, k, false);
+        // One simple selector: a type alone, or one of the others alone.
+        if (!negation || k != argument.size()) {
+            return false;
+        }
+        std::size_t simpleCount = (negation->type.empty() ? 0 : 1) + negation->classes.size() +
+                                  (negation->id.empty() ? 0 : 1) + negation->attributes.size() +
+                                  (negation->firstChild ? 1 : 0);
+        if (simpleCount != 1) {
+            return false;
+        }
+        compound.negations.push_back(std::move(*negation));
+        i = close + 1;
+    } else {
+        return false;  // other pseudo-classes
+    }
+    return true;
+}
+
 std::optional<CssSelector> ParseSelector(std::string_view text) {
     text = TrimSvgSpace(text);
     CssSelector selector;
     std::size_t i = 0;
     char pending = 0;
     while (i < text.size()) {
-        CssCompoundSelector compound;
-        bool any = false;
-        if (text[i] == '*') {
-            compound.type = "*";
-            ++i;
-            any = true;
-        } else if (IsIdentChar(text[i])) {
-            compound.type = *ReadIdent(text, i);
-            any = true;
-        }
-        while (i < text.size() && (text[i] == '.' || text[i] == '#')) {
-            char kind = text[i++];
-            auto name = ReadIdent(text, i);
-            if (!name) {
-                return std::nullopt;
-            }
-            if (kind == '.') {
-                compound.classes.push_back(*name);
-            } else if (compound.id.empty()) {
-                compound.id = *name;
-            } else if (compound.id != *name) {
-                compound.id = "\x01";  // two different ids: matches nothing
-            }
-            any = true;
-        }
-        if (!any) {
+        auto compound = ReadCompound(text, i, true);
+        if (!compound) {
             return std::nullopt;
         }
         if (!selector.compounds.empty()) {
             selector.combinators.push_back(pending);
         }
-        selector.compounds.push_back(std::move(compound));
+        selector.compounds.push_back(std::move(*compound));
         // The combinator to the next compound.
         bool space = false;
         while (i < text.size() && IsSvgSpace(text[i])) {
@@ -146,13 +272,11 @@ std::optional<CssSelector> ParseSelector(std::string_view text) {
         if (text[i] == '>') {
             pending = '>';
             ++i;
-            while (i < text.size() && IsSvgSpace(text[i])) {
-                ++i;
-            }
+            SkipBlanks(text, i);
         } else if (space) {
             pending = ' ';
         } else {
-            return std::nullopt;  // attribute selectors, pseudo-classes, siblings
+            return std::nullopt;  // siblings and anything else
         }
         if (i >= text.size()) {
             return std::nullopt;
@@ -170,23 +294,79 @@ std::string_view LocalName(pugi::xml_node element) {
     return colon == std::string_view::npos ? name : name.substr(colon + 1);
 }
 
-bool HasClass(pugi::xml_node element, std::string_view name) {
-    std::string_view classes = element.attribute("class").value();
+
+bool HasWord(std::string_view words, std::string_view word) {
     std::size_t i = 0;
-    while (i < classes.size()) {
-        while (i < classes.size() && IsSvgSpace(classes[i])) ++i;
+    while (i < words.size()) {
+        while (i < words.size() && IsSvgSpace(words[i])) ++i;
         std::size_t start = i;
-        while (i < classes.size() && !IsSvgSpace(classes[i])) ++i;
-        if (i > start && classes.substr(start, i - start) == name) {
+        while (i < words.size() && !IsSvgSpace(words[i])) ++i;
+        if (i > start && words.substr(start, i - start) == word) {
             return true;
         }
     }
     return false;
 }
 
+bool PassesAttributeTest(const CssAttributeTest& test, pugi::xml_node element) {
+    pugi::xml_attribute attribute = element.attribute(test.name.c_str());
+    if (!attribute) {
+        return false;
+    }
+    std::string actualText = test.ignoreCase ? AsciiLower(attribute.value()) : attribute.value();
+    std::string wantedText = test.ignoreCase ? AsciiLower(test.value) : test.value;
+    std::string_view actual = actualText, wanted = wantedText;
+    switch (test.match) {
+        case 0:
+            return true;
+        case '=':
+            return actual == wanted;
+        case '~':
+            // A word never holds a blank, and an empty word is no word.
+            return !wanted.empty() &&
+                   std::none_of(wanted.begin(), wanted.end(), IsSvgSpace) &&
+                   HasWord(actual, wanted);
+        case '|':
+            return actual == wanted ||
+                   (actual.starts_with(wanted) && actual.size() > wanted.size() &&
+                    actual[wanted.size()] == '-');
+        case '^':
+            return !wanted.empty() && actual.starts_with(wanted);
+        case '$':
+            return !wanted.empty() && actual.ends_with(wanted);
+        case '*':
+            return !wanted.empty() && actual.find(wanted) != std::string_view::npos;
+        default:
+            return false;
+    }
+}
+
+bool IsFirstChild(pugi::xml_node element) {
+    for (pugi::xml_node before = element.previous_sibling(); before;
+         before = before.previous_sibling()) {
+        if (before.type() == pugi::node_element) {
+            return false;
+        }
+    }
+    return true;
+}
+
 bool MatchesCompound(const CssCompoundSelector& compound, pugi::xml_node element) {
     if (element.type() != pugi::node_element) {
         return false;
+    }
+    if (compound.firstChild && !IsFirstChild(element)) {
+        return false;
+    }
+    for (const auto& test : compound.attributes) {
+        if (!PassesAttributeTest(test, element)) {
+            return false;
+        }
+    }
+    for (const auto& negation : compound.negations) {
+        if (MatchesCompound(negation, element)) {
+            return false;
+        }
     }
     if (!compound.type.empty() && compound.type != "*" && compound.type != LocalName(element)) {
         return false;
@@ -195,7 +375,9 @@ bool MatchesCompound(const CssCompoundSelector& compound, pugi::xml_node element
         return false;
     }
     return std::all_of(compound.classes.begin(), compound.classes.end(),
-                       [&](const std::string& name) { return HasClass(element, name); });
+                       [&](const std::string& name) {
+                           return HasWord(element.attribute("class").value(), name);
+                       });
 }
 
 // Whether compounds[0..index] match with compounds[index] on element.
@@ -261,10 +443,18 @@ std::vector<CssDeclaration> ParseCssDeclarations(std::string_view block) {
 
 uint32_t CssSelector::Specificity() const {
     uint32_t ids = 0, classes = 0, types = 0;
-    for (const auto& compound : compounds) {
+    // Attribute tests and pseudo-classes weigh as classes; a :not() as its argument.
+    auto count = [&](const CssCompoundSelector& compound, auto& self) -> void {
         ids += compound.id.empty() ? 0 : 1;
-        classes += static_cast<uint32_t>(compound.classes.size());
+        classes += static_cast<uint32_t>(compound.classes.size() + compound.attributes.size() +
+                                         (compound.firstChild ? 1 : 0));
         types += compound.type.empty() || compound.type == "*" ? 0 : 1;
+        for (const auto& negation : compound.negations) {
+            self(negation, self);
+        }
+    };
+    for (const auto& compound : compounds) {
+        count(compound, count);
     }
     auto cap = [](uint32_t n) { return std::min<uint32_t>(n, 1023); };
     return cap(ids) << 20 | cap(classes) << 10 | cap(types);
@@ -350,12 +540,23 @@ std::map<std::string, std::string> CssStyleSheet::Cascade(
     // Rank: importance, origin (0 attribute, 1 sheet, 2 style attribute), specificity, order.
     using Rank = std::tuple<int, int, uint32_t, std::size_t>;
     std::map<std::string, std::pair<Rank, std::string>> winners;
-    auto offer = [&](const CssDeclaration& declaration, int origin, uint32_t specificity,
-                     std::size_t order) {
+    auto offerOne = [&](const CssDeclaration& declaration, int origin, uint32_t specificity,
+                        std::size_t order) {
         Rank rank{declaration.important ? 1 : 0, origin, specificity, order};
         auto found = winners.find(declaration.property);
         if (found == winners.end() || found->second.first <= rank) {
             winners[declaration.property] = {rank, declaration.value};
+        }
+    };
+    // A shorthand takes part as its longhands, at its own place in the cascade.
+    auto offer = [&](const CssDeclaration& declaration, int origin, uint32_t specificity,
+                     std::size_t order) {
+        if (declaration.property != "font") {
+            offerOne(declaration, origin, specificity, order);
+        } else if (auto longhands = ExpandFontShorthand(declaration.value, declaration.important)) {
+            for (const auto& longhand : *longhands) {
+                offerOne(longhand, origin, specificity, order);
+            }
         }
     };
     for (std::string_view name : presentationAttributes) {

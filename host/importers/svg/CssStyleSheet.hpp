@@ -22,11 +22,26 @@ struct CssDeclaration {
 // !important". Malformed declarations are skipped, the rest kept, as CSS does.
 std::vector<CssDeclaration> ParseCssDeclarations(std::string_view block);
 
-// Type ("rect", "*" or empty for any), id and classes that one element must all have.
+// [name], [name=value], [name~=value] (one of its words), [name|=value] (it or it then "-"),
+// [name^=value], [name$=value], [name*=value] (starts, ends, contains); " i" before the
+// bracket compares the value ignoring ASCII case.
+struct CssAttributeTest {
+    std::string name;
+    char match = 0;  // 0 presence, '=', '~', '|', '^', '$' or '*'
+    std::string value;
+    bool ignoreCase = false;
+};
+
+// Type ("rect", "*" or empty for any), id, classes, attribute tests and pseudo-classes
+// (:first-child, :not() of one simple selector) that one element must all pass.
 struct CssCompoundSelector {
     std::string type;
     std::string id;
     std::vector<std::string> classes;
+    std::vector<CssAttributeTest> attributes;
+    bool firstChild = false;
+    // Each :not()'s argument, a compound holding one simple selector.
+    std::vector<CssCompoundSelector> negations;
 };
 
 // Compounds from the outermost to the subject, joined by descendant (' ') or child ('>')
@@ -46,10 +61,11 @@ struct CssRule {
     std::size_t order = 0;  // position among all rules; later wins among equals
 };
 
-// The rules of a document's <style> sheets: type, class, id and universal selectors,
-// compound selectors, descendant and child combinators, selector lists. A rule whose
-// selector uses anything else (attributes, pseudo-classes, siblings) is dropped, as CSS drops
-// a rule it cannot read; at-rules are skipped with their blocks.
+// The rules of a document's <style> sheets: type, class, id, universal and attribute
+// selectors, :first-child and :not(), compound selectors, descendant and child combinators,
+// selector lists. A rule whose selector uses anything else (other pseudo-classes, pseudo-
+// elements, siblings, namespaces) is dropped, as CSS drops a rule it cannot read; at-rules
+// are skipped with their blocks.
 class CssStyleSheet {
 public:
     // Reads one sheet's text; its rules come after those already read.

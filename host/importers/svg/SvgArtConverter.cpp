@@ -1,11 +1,14 @@
 #include "importers/svg/SvgArtConverter.hpp"
 
+#include "document/ArtBounds.hpp"
 #include "importers/svg/SvgAttributes.hpp"
+#include "importers/svg/SvgConditions.hpp"
 #include "importers/svg/SvgForeignObjectConverter.hpp"
 #include "importers/svg/SvgImageConverter.hpp"
 #include "importers/svg/SvgImportFailure.hpp"
 #include "importers/svg/SvgLength.hpp"
 #include "importers/svg/SvgNumbers.hpp"
+#include "importers/svg/SvgPatternPlacement.hpp"
 #include "importers/svg/SvgShapes.hpp"
 #include "importers/svg/SvgTextConverter.hpp"
 #include "importers/svg/SvgViewport.hpp"
@@ -76,6 +79,16 @@ void ApplyCornerList(std::vector<document::Corner>& corners, std::string_view te
     }
 }
 
+bool IsObjectBoundingBox(std::string_view units) {
+    return TrimSvgSpace(units) == "objectBoundingBox";
+}
+
+// The art's bounding box for content in objectBoundingBox units; art without geometry gives
+// an empty box, which shrinks such content to a point.
+UserBox BoxOf(const Art& art, const Affine& toModel) {
+    return UserBoundingBox(art, toModel).value_or(UserBox{});
+}
+
 }  // namespace
 
 std::unique_ptr<Art> SvgArtConverter::NewArt(ArtType type, pugi::xml_node element) {
@@ -119,6 +132,7 @@ std::unique_ptr<Art> SvgArtConverter::Convert(pugi::xml_node element, const Affi
         return nullptr;
     }
     ApplyCommon(*art, element, toModel, depth);
+    PlacePatterns(*art, toModel, depth);
     return ApplyClip(std::move(art), element, toModel, depth);
 }
 
@@ -160,6 +174,13 @@ std::unique_ptr<Art> SvgArtConverter::ConvertGroup(pugi::xml_node element, const
         return NewArt(ArtType::Chart, element);  // a chart's drawing is its own business
     }
     auto group = NewArt(ArtType::Group, element);
+    if (context_.names.SvgName(element) == "switch") {
+        // A switch draws one of its children, the first whose conditions hold.
+        if (auto chosen = Convert(ChosenSwitchChild(context_.names, element), inside, depth + 1)) {
+            group->Add(std::move(chosen));
+        }
+        return group;
+    }
     ConvertChildren(element, inside, *group, depth);
     return group;
 }
@@ -327,7 +348,6 @@ std::unique_ptr<Art> SvgArtConverter::FramePath(pugi::xml_node shape, const Affi
 
 std::unique_ptr<Art> SvgArtConverter::ConvertUse(pugi::xml_node element, const Affine& toModel,
                                                  int depth) {
-    (void)toModel;
     std::string id = context_.names.HrefId(element);
     pugi::xml_node target = context_.Lookup(id);
     // A missing target, one that holds the <use> itself or one being expanded draws nothing.
@@ -340,7 +360,38 @@ std::unique_ptr<Art> SvgArtConverter::ConvertUse(pugi::xml_node element, const A
     }
     auto instance = NewArt(ArtType::SymbolInstance, element);
     instance->symbol = symbol;
+    // The definition was made in the root's user space; the instance shows it where the <use>
+    // puts it, so its bounds are the definition's carried from there to here.
+    if (auto rootFromModel = context_.rootToModel.Inverse()) {
+        Affine definitionToInstance = UsePlacement(element, target, toModel) * *rootFromModel;
+        instance->bounds = document::ArtBoundsAfter(
+            *symbol->definition,
+            [&](const document::Point& p) { return definitionToInstance.Apply(p); });
+    }
     return instance;
+}
+
+Affine SvgArtConverter::UsePlacement(pugi::xml_node use, pugi::xml_node target,
+                                     const Affine& toModel) const {
+    double viewportWidth = context_.viewportWidth, viewportHeight = context_.viewportHeight;
+    Affine placed = toModel * Affine::Translate(LengthAttribute(use, "x", 0, viewportWidth),
+                                                LengthAttribute(use, "y", 0, viewportHeight));
+    if (context_.names.SvgName(target) != "symbol") {
+        return placed;
+    }
+    auto box = ParseViewBox(target.attribute("viewBox").value());
+    if (!box) {
+        return placed;
+    }
+    // The <use>'s size wins over the symbol's own; neither given means the whole viewport.
+    double width = LengthAttribute(
+        use, "width", LengthAttribute(target, "width", viewportWidth, viewportWidth), viewportWidth);
+    double height =
+        LengthAttribute(use, "height",
+                        LengthAttribute(target, "height", viewportHeight, viewportHeight),
+                        viewportHeight);
+    return placed * ViewBoxTransform(*box, target.attribute("preserveAspectRatio").value(),
+                                     std::max(width, 0.0), std::max(height, 0.0));
 }
 
 document::Symbol* SvgArtConverter::SymbolFor(pugi::xml_node target, int depth) {
@@ -403,7 +454,11 @@ void SvgArtConverter::ApplyCommon(Art& art, pugi::xml_node element, const Affine
     if (!style.mask.empty() && context_.names.SvgName(mask) == "mask" && !IsActive(style.mask)) {
         ActiveReference guard(active_, style.mask);
         auto group = NewArt(ArtType::Group, pugi::xml_node());
-        ConvertChildren(mask, toModel, *group, depth + 1);
+        Affine contentToModel = toModel;
+        if (IsObjectBoundingBox(mask.attribute("maskContentUnits").value())) {
+            contentToModel = toModel * BoundingBoxUnits(BoxOf(art, toModel));
+        }
+        ConvertChildren(mask, contentToModel, *group, depth + 1);
         art.opacityMask = std::move(group);
     }
 }
@@ -420,6 +475,9 @@ std::unique_ptr<Art> SvgArtConverter::ApplyClip(std::unique_ptr<Art> art, pugi::
     if (auto transform = ParseTransform(clipPath.attribute("transform").value())) {
         clipToModel = toModel * *transform;
     }
+    if (IsObjectBoundingBox(clipPath.attribute("clipPathUnits").value())) {
+        clipToModel = clipToModel * BoundingBoxUnits(BoxOf(*art, toModel));
+    }
     auto group = NewArt(ArtType::Group, pugi::xml_node());
     group->clipGroup = true;
     for (pugi::xml_node child : clipPath.children()) {
@@ -432,19 +490,46 @@ std::unique_ptr<Art> SvgArtConverter::ApplyClip(std::unique_ptr<Art> art, pugi::
     return group;
 }
 
-void SvgArtConverter::ConvertPatterns() {
-    for (const auto& source : context_.resources.PatternSources()) {
-        auto group = NewArt(ArtType::Group, source.content);
-        if (source.content) {
-            Affine toModel = context_.rootToModel;
-            pugi::xml_node pattern = context_.Lookup(source.pattern->id);
-            if (auto transform = ParseTransform(pattern.attribute("patternTransform").value())) {
-                toModel = toModel * *transform;
+void SvgArtConverter::PlacePatterns(const Art& art, const Affine& toModel, int depth) {
+    auto place = [&](const document::PathStyle& paint) {
+        for (const document::Color* color : {&paint.fill, &paint.stroke}) {
+            if (color->kind == document::ColorKind::Pattern && color->pattern &&
+                !placedPatterns_.count(color->pattern)) {
+                ConvertPattern(*color->pattern, toModel, BoxOf(art, toModel), depth);
             }
-            ActiveReference guard(active_, source.pattern->id);
-            ConvertChildren(source.content, toModel, *group, 1);
         }
-        source.pattern->art = std::move(group);
+    };
+    place(art.style);
+    if (art.text) {
+        for (const auto& run : art.text->runs) {
+            place(run.paint);
+        }
+    }
+}
+
+void SvgArtConverter::ConvertPattern(document::Pattern& pattern, const Affine& userToModel,
+                                     const UserBox& box, int depth) {
+    if (!placedPatterns_.insert(&pattern).second) {
+        return;  // made for the first art that paints with it, or being made now
+    }
+    const auto& sources = context_.resources.PatternSources();
+    auto source = std::find_if(sources.begin(), sources.end(),
+                               [&](const auto& entry) { return entry.pattern == &pattern; });
+    if (source == sources.end()) {
+        return;
+    }
+    auto group = NewArt(ArtType::Group, source->content);
+    if (source->content) {
+        Affine toModel = userToModel * PatternContentTransform(context_, source->element, box);
+        ActiveReference guard(active_, pattern.id);
+        ConvertChildren(source->content, toModel, *group, depth + 1);
+    }
+    pattern.art = std::move(group);
+}
+
+void SvgArtConverter::ConvertUnusedPatterns() {
+    for (const auto& source : context_.resources.PatternSources()) {
+        ConvertPattern(*source.pattern, context_.rootToModel, UserBox{0, 0, 1, 1}, 1);
     }
 }
 

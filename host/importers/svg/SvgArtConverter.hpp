@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/Art.hpp"
+#include "importers/svg/SvgBoundingBox.hpp"
 #include "importers/svg/SvgImportContext.hpp"
 #include "importers/svg/SvgPathData.hpp"
 
@@ -30,8 +31,9 @@ public:
     void ConvertChildren(pugi::xml_node element, const Affine& toModel, document::Art& into,
                          int depth);
 
-    // Fills each pattern's definition group from its content.
-    void ConvertPatterns();
+    // Fills the definition group of each pattern no art painted with, as if a unit box at the
+    // root's origin used it. Patterns that art paints with are made as that art is converted.
+    void ConvertUnusedPatterns();
 
     // The outline of a shape element (path, rect, circle, ellipse, line, polyline,
     // polygon) in its own user units; empty for anything else.
@@ -64,6 +66,9 @@ private:
                                                 int depth);
     std::unique_ptr<document::Art> ConvertUse(pugi::xml_node element, const Affine& toModel,
                                               int depth);
+    // Target user units to model points for the instance a <use> makes: the <use>'s transform
+    // (in toModel), then its x and y, then a symbol's viewBox fitted to the <use>'s size.
+    Affine UsePlacement(pugi::xml_node use, pugi::xml_node target, const Affine& toModel) const;
     document::Symbol* SymbolFor(pugi::xml_node target, int depth);
     // Name, blend, graphic style and opacity mask of any art.
     void ApplyCommon(document::Art& art, pugi::xml_node element, const Affine& toModel, int depth);
@@ -71,12 +76,18 @@ private:
     std::unique_ptr<document::Art> ApplyClip(std::unique_ptr<document::Art> art,
                                              pugi::xml_node element, const Affine& toModel,
                                              int depth);
+    // Makes the definition of each pattern the art paints with (its own paint, its text runs')
+    // for this art's user space and bounding box, unless it is made already.
+    void PlacePatterns(const document::Art& art, const Affine& toModel, int depth);
+    void ConvertPattern(document::Pattern& pattern, const Affine& userToModel, const UserBox& box,
+                        int depth);
     void ApplyLiveShape(document::Art& art, pugi::xml_node element, std::string_view name,
                         const Affine& toModel);
 
     ImportContext& context_;
     std::unordered_set<std::string> active_;  // ids of references being expanded
     std::unordered_map<std::string, document::Symbol*> symbols_;
+    std::unordered_set<const document::Pattern*> placedPatterns_;
     std::size_t artCount_ = 0;
 };
 

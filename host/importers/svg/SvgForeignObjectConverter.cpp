@@ -1,6 +1,7 @@
 #include "importers/svg/SvgForeignObjectConverter.hpp"
 
 #include "importers/svg/SvgArtConverter.hpp"
+#include "importers/svg/SvgPaint.hpp"
 #include "importers/svg/SvgTreeWalk.hpp"
 
 #include <algorithm>
@@ -26,6 +27,18 @@ std::unique_ptr<document::Art> ConvertForeignObject(SvgArtConverter& converter,
         }
         if (style.opacity < 1) {
             content->transparent = true;
+        }
+        for (const char* property : {"fill", "stroke", "color"}) {
+            auto declared = style.declared.find(property);
+            if (declared == style.declared.end()) {
+                continue;
+            }
+            auto id = ParseLocalUrl(declared->second);
+            document::CustomColor* swatch = id ? context.resources.Swatch(*id) : nullptr;
+            if (swatch && std::find(content->customColors.begin(), content->customColors.end(),
+                                    swatch) == content->customColors.end()) {
+                content->customColors.push_back(swatch);
+            }
         }
     });
     art->bounds = converter.BoxBounds(element, toModel);

@@ -125,8 +125,8 @@ std::unique_ptr<Document> ImportSvgText(std::string_view text, const std::filesy
         svg::ReadColorProfiles(context);
         svg::ReadDocumentSettings(context);
         svg::SvgArtConverter converter(context);
-        converter.ConvertPatterns();
         BuildLayers(context, converter);
+        converter.ConvertUnusedPatterns();
         return document;
     } catch (const svg::SvgImportFailure& failure) {
         throw DocumentOpenError(file, failure.what());

@@ -263,7 +263,7 @@ void SvgResources::AddPattern(ImportContext& context, pugi::xml_node element) {
             return static_cast<bool>(e.find_child(
                 [](pugi::xml_node child) { return child.type() == pugi::node_element; }));
         });
-    patternSources_.push_back({pattern.get(), content});
+    patternSources_.push_back({pattern.get(), element, content});
     if (!pattern->id.empty()) {
         patterns_.emplace(pattern->id, pattern.get());
     }

@@ -43,10 +43,11 @@ public:
     // no paint, as a browser draws it. currentColor takes `current`.
     ResolvedPaint Resolve(const PaintValue& paint, const ParsedColor& current) const;
 
-    // Each pattern with the element whose children are its content (its own or, through
-    // href, another pattern's).
+    // Each pattern with its element and the element whose children are its content (its own
+    // or, through href, another pattern's).
     struct PatternSource {
         document::Pattern* pattern;
+        pugi::xml_node element;
         pugi::xml_node content;
     };
     const std::vector<PatternSource>& PatternSources() const { return patternSources_; }

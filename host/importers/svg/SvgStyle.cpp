@@ -14,12 +14,12 @@ namespace {
 
 using document::BlendMode;
 
-constexpr std::array<std::string_view, 22> kPresentationAttributes{
+constexpr std::array<std::string_view, 23> kPresentationAttributes{
     "fill",         "stroke",       "fill-opacity",   "stroke-opacity", "fill-rule",
     "stroke-width", "color",        "font-family",    "font-size",      "font-weight",
     "font-style",   "opacity",      "mix-blend-mode", "clip-path",      "mask",
     "stop-color",   "stop-opacity", "display",        "inline-size",    "shape-inside",
-    "visibility",   "font-variant",
+    "visibility",   "font-variant", "text-anchor",
 };
 
 struct BlendName {
@@ -154,6 +154,7 @@ ComputedStyle StyleResolver::Compute(pugi::xml_node element, const ComputedStyle
     style.fontSize = parent.fontSize;
     style.fontWeight = parent.fontWeight;
     style.fontStyle = parent.fontStyle;
+    style.textAnchor = parent.textAnchor;
     style.declared = sheet_.Cascade(element, kPresentationAttributes);
 
     for (const auto& [property, rawValue] : style.declared) {
@@ -205,6 +206,10 @@ ComputedStyle StyleResolver::Compute(pugi::xml_node element, const ComputedStyle
             if (value == "normal" || value == "italic" || value.starts_with("oblique")) {
                 style.fontStyle = value.starts_with("oblique") ? "oblique" : std::string(value);
             }
+        } else if (property == "text-anchor") {
+            if (value == "start") style.textAnchor = TextAnchor::Start;
+            if (value == "middle") style.textAnchor = TextAnchor::Middle;
+            if (value == "end") style.textAnchor = TextAnchor::End;
         } else if (property == "mix-blend-mode") {
             style.blendMode = BlendModeNamed(value).value_or(BlendMode::Normal);
         } else if (property == "clip-path") {

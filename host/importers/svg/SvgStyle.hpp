@@ -3,6 +3,7 @@
 #include "document/Paint.hpp"
 #include "importers/svg/CssStyleSheet.hpp"
 #include "importers/svg/SvgPaint.hpp"
+#include "importers/svg/SvgTextLayout.hpp"
 
 #include <pugixml.hpp>
 
@@ -33,6 +34,7 @@ struct ComputedStyle {
     double fontSize = 16;
     int fontWeight = 400;
     std::string fontStyle = "normal";
+    TextAnchor textAnchor = TextAnchor::Start;
     // Not inherited.
     double opacity = 1;
     document::BlendMode blendMode = document::BlendMode::Normal;

@@ -5,6 +5,7 @@
 #include "importers/svg/SvgLength.hpp"
 #include "importers/svg/SvgNumbers.hpp"
 #include "importers/svg/SvgShapes.hpp"
+#include "importers/svg/SvgTextLayout.hpp"
 
 #include <algorithm>
 #include <optional>
@@ -50,6 +51,8 @@ public:
         if (depth > kMaxNesting) {
             throw SvgImportFailure("elements nested too deeply");
         }
+        layout_.Open({Coordinates(element, "x"), Coordinates(element, "y"),
+                      Coordinates(element, "dx"), Coordinates(element, "dy")});
         for (pugi::xml_node child : element.children()) {
             if (child.type() == pugi::node_pcdata || child.type() == pugi::node_cdata) {
                 AddRun(element, child.value());
@@ -60,7 +63,11 @@ public:
                 }
             }
         }
+        layout_.Close();
     }
+
+    // Where the characters land, in user units; none without characters.
+    std::optional<TextLayout::Box> Bounds() const { return layout_.Bounds(); }
 
     std::vector<document::TextRun> Finish() {
         // Leading and trailing blanks of the whole text are not drawn.
@@ -72,7 +79,10 @@ public:
         }
         while (!runs_.empty()) {
             auto& last = runs_.back().text;
-            if (!last.empty() && last.back() == ' ') last.pop_back();
+            if (!last.empty() && last.back() == ' ') {
+                last.pop_back();
+                layout_.DropLastCharacter();
+            }
             if (!last.empty()) break;
             runs_.pop_back();
         }
@@ -93,12 +103,22 @@ private:
         run.fontStyle = style.fontStyle;
         run.fontSize = ClampCoordinate(style.fontSize * toModel_.LengthScale());
         run.paint = converter_.PaintStyle(owner, toModel_);
+        layout_.AddCharacters(CountCharacters(run.text), style.fontSize, style.textAnchor);
         runs_.push_back(std::move(run));
+    }
+
+    static std::vector<double> Coordinates(pugi::xml_node element, const char* name) {
+        std::vector<double> values = ParseNumberList(element.attribute(name).value());
+        for (double& value : values) {
+            value = ClampCoordinate(value);
+        }
+        return values;
     }
 
     SvgArtConverter& converter_;
     Affine toModel_;
     std::vector<document::TextRun> runs_;
+    TextLayout layout_{0, 0};
     bool lastWasBlank_ = true;  // so the text's leading blank goes
 };
 
@@ -156,12 +176,11 @@ std::unique_ptr<Art> ConvertText(SvgArtConverter& converter, pugi::xml_node elem
     collector.Collect(element, depth);
     frame->runs = collector.Finish();
 
-    std::size_t characters = 0;
-    for (const auto& run : frame->runs) {
-        characters += CountCharacters(run.text);
+    if (auto box = collector.Bounds()) {
+        art->bounds = TransformedBounds(toModel, box->left, box->top, box->right, box->bottom);
+    } else {
+        art->bounds = TransformedBounds(toModel, x, y - style.fontSize, x, y);  // empty text
     }
-    double width = ClampCoordinate(static_cast<double>(characters) * 0.5 * style.fontSize);
-    art->bounds = TransformedBounds(toModel, x, y - style.fontSize, x + width, y);
     art->style = converter.PaintStyle(element, toModel);
     art->text = std::move(frame);
     return art;

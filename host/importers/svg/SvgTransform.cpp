@@ -28,6 +28,17 @@ document::Point Affine::Apply(const document::Point& p) const {
     return {ClampCoordinate(a * p.x + c * p.y + e), ClampCoordinate(b * p.x + d * p.y + f)};
 }
 
+std::optional<Affine> Affine::Inverse() const {
+    double determinant = a * d - b * c;
+    if (!std::isfinite(determinant) || std::fabs(determinant) < 1e-12) {
+        return std::nullopt;
+    }
+    Affine inverse{d / determinant, -b / determinant, -c / determinant, a / determinant, 0, 0};
+    inverse.e = -(inverse.a * e + inverse.c * f);
+    inverse.f = -(inverse.b * e + inverse.d * f);
+    return inverse;
+}
+
 double Affine::LengthScale() const {
     double scale = std::sqrt(std::fabs(a * d - b * c));
     return std::isfinite(scale) ? scale : 0;

@@ -20,6 +20,8 @@ struct Affine {
     // Each coordinate is kept finite (see ClampCoordinate), so absurd transforms still give
     // usable geometry.
     document::Point Apply(const document::Point& p) const;
+    // The map that undoes this one; none when it flattens the plane (or nearly so).
+    std::optional<Affine> Inverse() const;
     // How much the map scales lengths: the square root of the area factor.
     double LengthScale() const;
 };

@@ -136,5 +136,84 @@ TEST(CssStyleSheetRulesTest, SpecificityOrdersIdsClassesTypes) {
     EXPECT_GT(sheet.Rules()[1].selector.Specificity(), sheet.Rules()[2].selector.Specificity());
 }
 
+TEST_F(CssStyleSheetTest, AttributePresenceAndEquality) {
+    const char* markup =
+        R"(<svg><rect id="a" data-kind="tile"/><rect id="b" data-kind="tiles"/><rect id="c"/></svg>)";
+    const char* sheet = "[data-kind] { fill: red } rect[data-kind=\"tile\"] { fill: blue }";
+    EXPECT_EQ(Value(sheet, markup, "a"), "blue");  // both hold; the typed one is more specific
+    EXPECT_EQ(Value(sheet, markup, "b"), "red");   // "tiles" is not "tile"
+    EXPECT_EQ(Value(sheet, markup, "c"), "(unset)");
+}
+
+TEST_F(CssStyleSheetTest, AttributeWordPrefixSuffixAndSubstring) {
+    const char* markup = R"(<svg><rect id="r" data-tags="big round" lang="en-GB" href="#pic.png"/></svg>)";
+    EXPECT_EQ(Value("[data-tags~=round] { fill: red }", markup, "r"), "red");
+    EXPECT_EQ(Value("[data-tags~=roun] { fill: red }", markup, "r"), "(unset)");  // no such word
+    EXPECT_EQ(Value("[data-tags~='big round'] { fill: red }", markup, "r"), "(unset)");
+    EXPECT_EQ(Value("[lang|=en] { fill: red }", markup, "r"), "red");  // "en" then "-"
+    EXPECT_EQ(Value("[lang|=e] { fill: red }", markup, "r"), "(unset)");
+    EXPECT_EQ(Value("[href^='#pic'] { fill: red }", markup, "r"), "red");
+    EXPECT_EQ(Value("[href$=\".png\"] { fill: red }", markup, "r"), "red");
+    EXPECT_EQ(Value("[href*=c.p] { fill: red }", markup, "r"), "(unset)");  // c.p: not an ident
+    EXPECT_EQ(Value("[href*='c.p'] { fill: red }", markup, "r"), "red");
+    EXPECT_EQ(Value("[href^=''] { fill: red }", markup, "r"), "(unset)");  // empty: never
+    EXPECT_EQ(Value("[lang='EN-gb' i] { fill: red }", markup, "r"), "red");
+    EXPECT_EQ(Value("[lang='EN-gb'] { fill: red }", markup, "r"), "(unset)");
+}
+
+TEST_F(CssStyleSheetTest, FirstChildCountsOnlyElements) {
+    const char* markup = R"(<svg><g>text<rect id="first"/><rect id="second"/></g></svg>)";
+    const char* sheet = "rect:first-child { fill: red }";
+    EXPECT_EQ(Value(sheet, markup, "first"), "red");
+    EXPECT_EQ(Value(sheet, markup, "second"), "(unset)");
+}
+
+TEST_F(CssStyleSheetTest, NotExcludesWhatItsSelectorMatches) {
+    const char* markup = R"(<svg><rect id="plain"/><rect id="marked" class="skip"/><circle id="c"/></svg>)";
+    EXPECT_EQ(Value("rect:not(.skip) { fill: red }", markup, "plain"), "red");
+    EXPECT_EQ(Value("rect:not(.skip) { fill: red }", markup, "marked"), "(unset)");
+    EXPECT_EQ(Value(":not(rect) { fill: red }", markup, "c"), "red");
+    EXPECT_EQ(Value(":not(rect) { fill: red }", markup, "plain"), "(unset)");
+}
+
+TEST(CssStyleSheetRulesTest, SelectorsBeyondTheReadOnesDropTheirRules) {
+    CssStyleSheet sheet;
+    sheet.Append(
+        "rect:last-child { fill: red } rect::before { fill: red } rect:not(.a.b) { fill: red } "
+        ":not(:not(rect)) { fill: red } rect:not(g rect) { fill: red } [a=] { fill: red } "
+        "[a b] { fill: red } a + b { fill: red } [a$=x]:first-child:not([b]) { fill: blue }");
+    ASSERT_EQ(sheet.Rules().size(), 1u);
+    const CssCompoundSelector& compound = sheet.Rules()[0].selector.compounds[0];
+    ASSERT_EQ(compound.attributes.size(), 1u);
+    EXPECT_EQ(compound.attributes[0].match, '$');
+    EXPECT_TRUE(compound.firstChild);
+    ASSERT_EQ(compound.negations.size(), 1u);
+    EXPECT_EQ(compound.negations[0].attributes[0].name, "b");
+}
+
+TEST(CssStyleSheetRulesTest, AnUnclosedBracketOrStringEndsTheSheet) {
+    // What follows an open bracket, parenthesis or quote is inside it to the end of the text,
+    // so no block follows the prelude.
+    for (const char* text : {"[a { fill: red } b { }", ":not(a { fill: red } b { }",
+                             "[a='x] { fill: red } b { }"}) {
+        CssStyleSheet sheet;
+        sheet.Append(text);
+        EXPECT_TRUE(sheet.Rules().empty()) << text;
+    }
+}
+
+TEST(CssStyleSheetRulesTest, AttributesAndPseudoClassesWeighAsClasses) {
+    CssStyleSheet sheet;
+    sheet.Append(".a { } [b] { } :first-child { } :not(.c) { } :not(d) { } e { }");
+    ASSERT_EQ(sheet.Rules().size(), 6u);
+    uint32_t oneClass = sheet.Rules()[0].selector.Specificity();
+    for (std::size_t i = 1; i < 4; ++i) {
+        EXPECT_EQ(sheet.Rules()[i].selector.Specificity(), oneClass) << i;
+    }
+    // :not(d) weighs as its type d.
+    EXPECT_EQ(sheet.Rules()[4].selector.Specificity(), sheet.Rules()[5].selector.Specificity());
+    EXPECT_FALSE(sheet.DefinesClass("c"));  // a class only excluded defines no style
+}
+
 }  // namespace
 }  // namespace zm::host::svg

@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -27,6 +28,16 @@ inline host::document::Art& ArtById(host::document::Document& document, const st
         throw std::runtime_error("no art with id " + id);
     }
     return *art;
+}
+
+// Bounds reached through an inverted map carry rounding noise in the last digits.
+inline void ExpectBoundsNear(const std::optional<host::document::Rect>& actual,
+                             const host::document::Rect& expected) {
+    ASSERT_TRUE(actual);
+    EXPECT_NEAR(actual->left, expected.left, 1e-9);
+    EXPECT_NEAR(actual->top, expected.top, 1e-9);
+    EXPECT_NEAR(actual->right, expected.right, 1e-9);
+    EXPECT_NEAR(actual->bottom, expected.bottom, 1e-9);
 }
 
 inline int TypeCode(const host::document::Art& art) { return static_cast<int>(art.Type()); }

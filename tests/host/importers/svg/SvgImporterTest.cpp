@@ -295,6 +295,17 @@ TEST(SvgImportErrorTest, AbsurdNumbersOpenWithFiniteGeometry) {
     EXPECT_EQ(ArtById(*document, "text").blend.opacity, 1);  // "NaN" ignored
 }
 
+TEST(SvgImportErrorTest, AbsurdPlacementsOpenWithFiniteBounds) {
+    auto document = OpenSvgFixture("absurd-placement.svg");
+    ASSERT_EQ(document->layers.size(), 1u);
+    ExpectFinite(*document->layers[0]->root);
+    EXPECT_TRUE(ArtById(*document, "use").bounds);  // ExpectFinite checked their figures
+    EXPECT_TRUE(ArtById(*document, "text").bounds);
+    ASSERT_EQ(document->patterns.size(), 1u);
+    ASSERT_TRUE(document->patterns[0]->art);
+    ExpectFinite(*document->patterns[0]->art);
+}
+
 TEST(SvgImportErrorTest, AHugePolylineKeepsEveryPoint) {
     std::string points;
     for (int i = 0; i < 100000; ++i)

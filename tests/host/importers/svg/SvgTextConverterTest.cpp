@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <string>
 
 namespace zm::test {
 namespace {
@@ -88,6 +89,73 @@ TEST_F(SvgTextTest, FontsAreInheritedAndRelativeSizesResolved) {
     EXPECT_EQ(runs[0].fontFamily, "Inherited Sans");
     EXPECT_EQ(runs[0].fontSize, 12);  // 16 px
     EXPECT_EQ(runs[1].fontSize, 24);  // 200 % of 16 px = 32 px
+}
+
+class SvgTextLayoutTest : public ::testing::Test {
+protected:
+    std::unique_ptr<Document> document = OpenSvgFixture("text-layout.svg");
+
+    const host::document::TextRun& OnlyRun(const std::string& id) {
+        const Art& text = ArtById(*document, id);
+        EXPECT_TRUE(text.text && text.text->runs.size() == 1u);
+        return text.text->runs.at(0);
+    }
+};
+
+TEST_F(SvgTextLayoutTest, ATspansXAndYStartANewLine) {
+    // "ab" from (10, 20): x 10..20, y 10..20 px; "cdef" from (10, 40): x 10..30, y 30..40.
+    // Together x 10..30, y 10..40 px: 7.5..22.5 pt, 75 - 7.5 = 67.5 down to 75 - 30 = 45.
+    ExpectBoundsNear(ArtById(*document, "lines").bounds, Rect{7.5, 67.5, 22.5, 45});
+}
+
+TEST_F(SvgTextLayoutTest, MiddleAnchorCentresTheTextOnX) {
+    // Four characters of 10 px: 40 px wide, centred on 100: x 80..120, y 30..50 px.
+    ExpectBoundsNear(ArtById(*document, "centred").bounds, Rect{60, 52.5, 90, 37.5});
+}
+
+TEST_F(SvgTextLayoutTest, EachChunkTakesTheAnchorOfItsFirstCharacter) {
+    // "ab" ends at 200 (x 190..200); the tspan's chunk starts at 100 (x 100..110). Together
+    // x 100..200, y 70..80 px: 75..150 pt, 22.5 down to 15.
+    ExpectBoundsNear(ArtById(*document, "ended").bounds, Rect{75, 22.5, 150, 15});
+}
+
+TEST_F(SvgTextLayoutTest, DxMovesTheNextCharacterWithoutANewChunk) {
+    // "a" 0..5, then 20 px on: "b" 25..30; y 90..100 px: 0..22.5 pt, 7.5 down to 0.
+    ExpectBoundsNear(ArtById(*document, "shifted").bounds, Rect{0, 7.5, 22.5, 0});
+}
+
+TEST_F(SvgTextLayoutTest, AListPlacesCharactersOneByOne) {
+    // "a" at 0..5, "b" at 50..55 px; y 0..10 px: 0..41.25 pt, 75 down to 67.5.
+    ExpectBoundsNear(ArtById(*document, "perCharacter").bounds, Rect{0, 75, 41.25, 67.5});
+}
+
+TEST_F(SvgTextLayoutTest, ATrailingBlankDoesNotWidenAnEndAnchoredLine) {
+    // "ab" without its blank is 10 px, ending at 100: x 90..100 px, 67.5..75 pt.
+    ExpectBoundsNear(ArtById(*document, "trailing").bounds, Rect{67.5, 75, 75, 67.5});
+}
+
+TEST_F(SvgTextLayoutTest, TheFontShorthandSetsStyleWeightSizeAndFamily) {
+    const auto& run = OnlyRun("shorthand");
+    EXPECT_EQ(run.fontStyle, "italic");
+    EXPECT_EQ(run.weight, 700);
+    EXPECT_EQ(run.fontSize, 18);  // 24 px; the line height does not change it
+    EXPECT_EQ(run.fontFamily, "Quux Sans");
+}
+
+TEST_F(SvgTextLayoutTest, ALonghandAfterTheShorthandWins) {
+    const auto& run = OnlyRun("longhandAfter");
+    EXPECT_EQ(run.fontSize, 9);  // 12 px, declared after the shorthand's 24 px
+    EXPECT_EQ(run.fontFamily, "Foo");
+}
+
+TEST_F(SvgTextLayoutTest, TheShorthandResetsWhatItLeavesOut) {
+    EXPECT_EQ(OnlyRun("shorthandResets").weight, 400);  // not the group's bold
+}
+
+TEST_F(SvgTextLayoutTest, AnUnreadableShorthandIsIgnored) {
+    const auto& run = OnlyRun("badShorthand");
+    EXPECT_EQ(run.fontSize, 7.5);  // the attribute's 10 px stands
+    EXPECT_EQ(run.fontFamily, "");
 }
 
 }  // namespace

@@ -63,5 +63,18 @@ TEST(SvgTransformTest, BoundsOfATurnedRectangleEncloseItsCorners) {
     EXPECT_NEAR(bounds.top, 10, 1e-12);
 }
 
+TEST(SvgTransformTest, TheInverseUndoesTheMap) {
+    // scale(2, 4) then translate(10 20): (1, 1) goes to (12, 24); the inverse brings it back.
+    Affine map = Affine::Translate(10, 20) * Affine::Scale(2, 4);
+    auto inverse = map.Inverse();
+    ASSERT_TRUE(inverse);
+    EXPECT_EQ(map.Apply({1, 1}), (Point{12, 24}));
+    EXPECT_EQ(inverse->Apply({12, 24}), (Point{1, 1}));
+}
+
+TEST(SvgTransformTest, AFlatteningMapHasNoInverse) {
+    EXPECT_FALSE(Affine::Scale(0, 1).Inverse());  // every point lands on the y axis
+}
+
 }  // namespace
 }  // namespace zm::host::svg
