@@ -1,0 +1,7 @@
+#include "ostui/FontError.hpp"
+
+namespace ostui {
+
+FontError::~FontError() = default;
+
+}  // namespace ostui

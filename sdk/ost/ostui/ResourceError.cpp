@@ -1,0 +1,7 @@
+#include "ostui/ResourceError.hpp"
+
+namespace ostui {
+
+ResourceError::~ResourceError() = default;
+
+}  // namespace ostui
