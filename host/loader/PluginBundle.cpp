@@ -2,37 +2,25 @@
 
 #include "loader/TextFile.hpp"
 
+#include <ostzm/ResourceMap.hpp>
+
 #include <cstdint>
 #include <span>
-#include <sstream>
 
 namespace zm::host {
 
 namespace {
 
 constexpr const char* kPropertyListFile = "plugin.pipl";
-constexpr const char* kResourceFolder = "Resources";
-constexpr const char* kResourceMapFile = "resources.map";
 constexpr const char* kStringsResource = "strings";
 
+// The toolkit reads the map too (for panel resources), so there is one reader of its format.
 std::map<std::string, std::filesystem::path> ReadResourceMap(
     const std::filesystem::path& resourceFolder) {
-    std::filesystem::path mapFile = resourceFolder / kResourceMapFile;
     std::map<std::string, std::filesystem::path> resources;
-    ForEachLine(ReadTextFile(mapFile), [&](std::string_view line, int lineNumber) {
-        if (line.empty() || line.front() == '#') {
-            return;
-        }
-        std::istringstream fields{std::string(line)};
-        std::string name;
-        std::string file;
-        std::string extra;
-        if (!(fields >> name >> file) || (fields >> extra)) {
-            throw std::runtime_error(mapFile.string() + ":" + std::to_string(lineNumber) +
-                                     ": expected a resource name and a file name");
-        }
-        resources[name] = resourceFolder / file;
-    });
+    for (auto& [name, file] : ostzm::ReadResourceMap(resourceFolder.string())) {
+        resources.emplace(name, file);
+    }
     return resources;
 }
 
@@ -65,7 +53,7 @@ PluginBundle OpenBundle(const std::filesystem::path& folder) {
         throw fail("no shared object " + bundle.sharedObject.filename().string());
     }
     try {
-        bundle.resources = ReadResourceMap(folder / kResourceFolder);
+        bundle.resources = ReadResourceMap(folder / ostzm::kResourceFolderName);
         auto strings = bundle.resources.find(kStringsResource);
         if (strings != bundle.resources.end()) {
             bundle.strings = StringTable::Read(strings->second);

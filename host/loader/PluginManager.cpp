@@ -3,6 +3,8 @@
 #include "runtime/ErrorText.hpp"
 #include "runtime/Runtime.hpp"
 
+#include <ostzm/PluginBundleRegistry.hpp>
+
 #include <algorithm>
 #include <system_error>
 
@@ -54,6 +56,10 @@ ZMErr PluginManager::LoadCode(LoadedPlugin& plugin) {
         problems_.push_back({plugin.bundle.folder, error.what()});
         return ZM_ERR_NOT_FOUND;
     }
+    // Panels the plug-in makes find their resources and texts through the toolkit.
+    ostzm::PluginBundleRegistry::Register(
+        plugin.Ref(), plugin.bundle.folder.string(),
+        [](const std::string& key) { return Runtime::Current().localizer.Localize(key); });
     return ZM_ERR_NONE;
 }
 
@@ -117,6 +123,7 @@ ZMErr PluginManager::Unload(LoadedPlugin& plugin) {
     ZMMessageRecord unload{};
     ZMErr result = plugin.Send(ZM_CALLER_ACCESS, ZM_SELECTOR_UNLOAD, unload);
     plugin.library.Close();
+    ostzm::PluginBundleRegistry::Unregister(plugin.Ref());
     // The description record lived in the code just unloaded.
     plugin.framework.description = nullptr;
     return result;

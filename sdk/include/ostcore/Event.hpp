@@ -15,8 +15,14 @@ class Event {
 public:
     using Callback = boost::function<void(Args...)>;
 
-    std::size_t Connect(Callback callback) {
-        slots_.push_back({++lastId_, std::move(callback)});
+    // Takes any callable a Callback can hold. It is assigned straight into its slot: a
+    // stateless lambda moved through a temporary boost::function trips GCC's
+    // uninitialized-memory warning.
+    template <typename Function>
+    std::size_t Connect(Function&& callback) {
+        Slot& slot = slots_.emplace_back();
+        slot.id = ++lastId_;
+        slot.callback = std::forward<Function>(callback);
         return lastId_;
     }
     void Disconnect(std::size_t id) {
@@ -52,7 +58,7 @@ public:
 
 private:
     struct Slot {
-        std::size_t id;
+        std::size_t id = 0;
         Callback callback;
     };
     std::vector<Slot> slots_;

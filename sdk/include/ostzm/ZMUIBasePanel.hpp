@@ -57,7 +57,7 @@ public:
     ZMPluginRef Plugin() const { return plugin_; }
     int LayoutId() const { return layoutId_; }
     int Flags() const { return flags_; }
-    const BasePanelCreationOptions& Options() const { return options_; }
+    const BasePanelCreationOptions& CreationOptions() const { return options_; }
     const std::string& Title() const { return title_; }
     // The font the panel's controls use.
     ostui::ThemeFont GetThemeFont(ostui::ThemeFontSize size = ostui::ThemeFontSize::Small) const;
