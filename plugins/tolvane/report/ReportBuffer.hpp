@@ -1,6 +1,7 @@
 #pragma once
 
 #include "report/ReportText.hpp"
+#include "report/StringGroups.hpp"
 
 #include <zelmora/ZMTypes.h>
 

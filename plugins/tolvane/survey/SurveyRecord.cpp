@@ -13,6 +13,24 @@ ZMMdMemoryHandle sSurveyHandle = nullptr;
 
 }  // namespace
 
+void AddPoints(SurveyRecord& record, int32_t segments) {
+    if (record.pointCount < 0) {
+        return;
+    }
+    // Unsigned arithmetic wraps where signed would be undefined; the wrap is the signal.
+    auto sum = static_cast<int32_t>(static_cast<uint32_t>(record.pointCount) +
+                                    static_cast<uint32_t>(segments));
+    record.pointCount = sum < record.pointCount ? -1 : sum;
+}
+
+void AddPathLength(SurveyRecord& record, double length) {
+    if (record.totalPathLength < 0.0) {
+        return;
+    }
+    double sum = record.totalPathLength + length;
+    record.totalPathLength = sum < record.totalPathLength ? -1.0 : sum;
+}
+
 ZMErr MakeSurvey() {
     if (gSurvey != nullptr) {
         return ZM_ERR_NONE;

@@ -49,6 +49,13 @@ struct SurveyRecord {
     double totalPathLength;  // points
 };
 
+// Adds a path's segments to pointCount while it is not negative; an addition that leaves it
+// smaller than before sets it to -1 for the rest of the survey.
+void AddPoints(SurveyRecord& record, int32_t segments);
+
+// The same rule for totalPathLength (points), with -1.0.
+void AddPathLength(SurveyRecord& record, double length);
+
 // The one survey of the plug-in: the block the host's memory suite gives, holding the
 // record and the heads of its lists.
 struct Survey {
