@@ -17,9 +17,9 @@ const void* sCustomColorSuite = nullptr;
 const void* sCharacterEncodingSuite = nullptr;
 const void* sDataFilterSuite = nullptr;
 const void* sDevUtilsSuite = nullptr;
-const void* sDictionarySuite = nullptr;
-const void* sDocumentSuite = nullptr;
-const void* sFilePathSuite = nullptr;
+const ZMDictionarySuite* sDictionarySuite = nullptr;
+const ZMDocumentSuite* sDocumentSuite = nullptr;
+const ZMFilePathSuite* sFilePathSuite = nullptr;
 const void* sFontSuite = nullptr;
 const void* sFontGlueSuite = nullptr;
 const void* sGradientSuite = nullptr;
@@ -29,9 +29,9 @@ const void* sLayerListSuite = nullptr;
 const void* sLiveEffectSuite = nullptr;
 const void* sMaskSuite = nullptr;
 const void* sMatchingArtSuite = nullptr;
-const void* sMdMemorySuite = nullptr;
+const ZMMdMemorySuite* sMdMemorySuite = nullptr;
 const void* sMeshSuite = nullptr;
-const void* sOverrideColorConversionSuite = nullptr;
+const ZMColorConversionSuite* sOverrideColorConversionSuite = nullptr;
 const void* sPathSuite = nullptr;
 const void* sPathStyleSuite = nullptr;
 const void* sPatternSuite = nullptr;
@@ -73,7 +73,7 @@ const void* sKrxTextLineSuite = nullptr;
 const void* sKrxTextLinesIteratorSuite = nullptr;
 const void* sKrxTextResourcesSuite = nullptr;
 const void* sKrxApplicationTextResourcesSuite = nullptr;
-const void* sKrxDocumentTextResourcesSuite = nullptr;
+const ZMKRXDocumentTextResourcesSuite* sKrxDocumentTextResourcesSuite = nullptr;
 const void* sKrxVersionInfoSuite = nullptr;
 const void* sKrxArrayApplicationPaintRefSuite = nullptr;
 const void* sKrxArrayRealSuite = nullptr;
@@ -169,9 +169,9 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_CHARACTER_ENCODING_SUITE_NAME, ZM_CHARACTER_ENCODING_SUITE_VERSION, &sCharacterEncodingSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_DATA_FILTER_SUITE_NAME, ZM_DATA_FILTER_SUITE_VERSION, &sDataFilterSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_DEV_UTILS_SUITE_NAME, ZM_DEV_UTILS_SUITE_VERSION, &sDevUtilsSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_DICTIONARY_SUITE_NAME, ZM_DICTIONARY_SUITE_VERSION, &sDictionarySuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_DOCUMENT_SUITE_NAME, ZM_DOCUMENT_SUITE_VERSION, &sDocumentSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_FILE_PATH_SUITE_NAME, ZM_FILE_PATH_SUITE_VERSION, &sFilePathSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_DICTIONARY_SUITE_NAME, ZM_DICTIONARY_SUITE_VERSION, Target(&sDictionarySuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_DOCUMENT_SUITE_NAME, ZM_DOCUMENT_SUITE_VERSION, Target(&sDocumentSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_FILE_PATH_SUITE_NAME, ZM_FILE_PATH_SUITE_VERSION, Target(&sFilePathSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_FONT_SUITE_NAME, ZM_FONT_SUITE_VERSION, &sFontSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_FONT_GLUE_SUITE_NAME, ZM_FONT_GLUE_SUITE_VERSION, &sFontGlueSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_GRADIENT_SUITE_NAME, ZM_GRADIENT_SUITE_VERSION, &sGradientSuite},
@@ -181,9 +181,9 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_LIVE_EFFECT_SUITE_NAME, ZM_LIVE_EFFECT_SUITE_VERSION, &sLiveEffectSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_MASK_SUITE_NAME, ZM_MASK_SUITE_VERSION, &sMaskSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_MATCHING_ART_SUITE_NAME, ZM_MATCHING_ART_SUITE_VERSION, &sMatchingArtSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_MD_MEMORY_SUITE_NAME, ZM_MD_MEMORY_SUITE_VERSION, &sMdMemorySuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_MD_MEMORY_SUITE_NAME, ZM_MD_MEMORY_SUITE_VERSION, Target(&sMdMemorySuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_MESH_SUITE_NAME, ZM_MESH_SUITE_VERSION, &sMeshSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_OVERRIDE_COLOR_CONVERSION_SUITE_NAME, ZM_OVERRIDE_COLOR_CONVERSION_SUITE_VERSION, &sOverrideColorConversionSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_OVERRIDE_COLOR_CONVERSION_SUITE_NAME, ZM_OVERRIDE_COLOR_CONVERSION_SUITE_VERSION, Target(&sOverrideColorConversionSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_PATH_SUITE_NAME, ZM_PATH_SUITE_VERSION, &sPathSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_PATH_STYLE_SUITE_NAME, ZM_PATH_STYLE_SUITE_VERSION, &sPathStyleSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_PATTERN_SUITE_NAME, ZM_PATTERN_SUITE_VERSION, &sPatternSuite},
@@ -225,7 +225,7 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_LINES_ITERATOR_SUITE_NAME, ZM_KRX_TEXT_LINES_ITERATOR_SUITE_VERSION, &sKrxTextLinesIteratorSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_RESOURCES_SUITE_NAME, ZM_KRX_TEXT_RESOURCES_SUITE_VERSION, &sKrxTextResourcesSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_APPLICATION_TEXT_RESOURCES_SUITE_NAME, ZM_KRX_APPLICATION_TEXT_RESOURCES_SUITE_VERSION, &sKrxApplicationTextResourcesSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_DOCUMENT_TEXT_RESOURCES_SUITE_NAME, ZM_KRX_DOCUMENT_TEXT_RESOURCES_SUITE_VERSION, &sKrxDocumentTextResourcesSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_DOCUMENT_TEXT_RESOURCES_SUITE_NAME, ZM_KRX_DOCUMENT_TEXT_RESOURCES_SUITE_VERSION, Target(&sKrxDocumentTextResourcesSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_VERSION_INFO_SUITE_NAME, ZM_KRX_VERSION_INFO_SUITE_VERSION, &sKrxVersionInfoSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_APPLICATION_PAINT_REF_SUITE_NAME, ZM_KRX_ARRAY_APPLICATION_PAINT_REF_SUITE_VERSION, &sKrxArrayApplicationPaintRefSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_REAL_SUITE_NAME, ZM_KRX_ARRAY_REAL_SUITE_VERSION, &sKrxArrayRealSuite},

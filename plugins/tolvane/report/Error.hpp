@@ -1,0 +1,29 @@
+#pragma once
+
+#include <zelmora/ZMTypes.h>
+
+#include <exception>
+
+namespace zm {
+
+// A host error code thrown through plug-in code; the C entry that catches it returns the
+// code unchanged.
+class Error : public std::exception {
+public:
+    explicit Error(ZMErr code) noexcept : code_(code) {}
+
+    ZMErr Code() const noexcept { return code_; }
+    const char* what() const noexcept override { return "host error"; }
+
+private:
+    ZMErr code_;
+};
+
+// Throws the code of a failed host call.
+inline void Check(ZMErr code) {
+    if (code != ZM_ERR_NONE) {
+        throw Error(code);
+    }
+}
+
+}  // namespace zm

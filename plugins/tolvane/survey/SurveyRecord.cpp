@@ -1,0 +1,78 @@
+#include "survey/SurveyRecord.hpp"
+
+#include "shell/ErrorAlert.hpp"
+#include "shell/SuiteSet.hpp"
+
+namespace tolvane {
+
+Survey* gSurvey = nullptr;
+
+namespace {
+
+ZMMdMemoryHandle sSurveyHandle = nullptr;
+
+}  // namespace
+
+void AddPoints(SurveyRecord& record, int32_t segments) {
+    if (record.pointCount < 0) {
+        return;
+    }
+    // Unsigned arithmetic wraps where signed would be undefined; the wrap is the signal.
+    auto sum = static_cast<int32_t>(static_cast<uint32_t>(record.pointCount) +
+                                    static_cast<uint32_t>(segments));
+    record.pointCount = sum < record.pointCount ? -1 : sum;
+}
+
+void AddPathLength(SurveyRecord& record, double length) {
+    if (record.totalPathLength < 0.0) {
+        return;
+    }
+    double sum = record.totalPathLength + length;
+    record.totalPathLength = sum < record.totalPathLength ? -1.0 : sum;
+}
+
+ZMErr MakeSurvey() {
+    if (gSurvey != nullptr) {
+        return ZM_ERR_NONE;
+    }
+    ZMMdMemoryHandle handle = nullptr;
+    ZMErr error = sMdMemorySuite->NewHandleClear(sizeof(Survey), &handle);
+    void* block = nullptr;
+    if (error == ZM_ERR_NONE) {
+        // The block never moves: it is never resized.
+        error = sMdMemorySuite->MdMemoryHandleDeref(handle, &block);
+        if (error != ZM_ERR_NONE) {
+            sMdMemorySuite->DisposeHandle(handle);
+        }
+    }
+    if (error != ZM_ERR_NONE) {
+        ShowErrorAlert(kAlertError, kAlertMessageList, kAlertOutOfMemory, error,
+                       "DoTolvaneDlog:NewHandleClear()");
+        return error;
+    }
+    sSurveyHandle = handle;
+    gSurvey = static_cast<Survey*>(block);
+    ResetSurvey(false);
+    return ZM_ERR_NONE;
+}
+
+void FreeSurvey() {
+    if (gSurvey == nullptr) {
+        return;
+    }
+    FreeSurveyLists(gSurvey->lists);
+    sMdMemorySuite->DisposeHandle(sSurveyHandle);
+    sSurveyHandle = nullptr;
+    gSurvey = nullptr;
+}
+
+void ResetSurvey(bool freeLists) {
+    gSurvey->record = SurveyRecord{};
+    if (freeLists) {
+        FreeSurveyLists(gSurvey->lists);
+    } else {
+        gSurvey->lists = SurveyLists{};
+    }
+}
+
+}  // namespace tolvane
