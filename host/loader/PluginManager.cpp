@@ -3,6 +3,7 @@
 #include "runtime/ErrorText.hpp"
 #include "runtime/Runtime.hpp"
 
+#include <ostzm/PanelRegistry.hpp>
 #include <ostzm/PluginBundleRegistry.hpp>
 
 #include <algorithm>
@@ -120,6 +121,9 @@ ZMErr PluginManager::Unload(LoadedPlugin& plugin) {
     if (!plugin.library.IsOpen()) {
         return ZM_ERR_NONE;
     }
+    // The plug-in's panels close with its code, as windows do when a module goes: now, while
+    // the code that destroys them is still loaded. The plug-in only drops its pointers.
+    ostzm::PanelRegistry::ClosePanelsOf(plugin.Ref());
     ZMMessageRecord unload{};
     ZMErr result = plugin.Send(ZM_CALLER_ACCESS, ZM_SELECTOR_UNLOAD, unload);
     plugin.library.Close();

@@ -5,7 +5,9 @@
 #include "shell/FrameworkCalls.hpp"
 #include "shell/Globals.hpp"
 #include "shell/OptionalSuites.hpp"
+#include "shell/PanelCreation.hpp"
 #include "shell/SuiteSet.hpp"
+#include "survey/SurveyRecord.hpp"
 
 #include <zelmora/ZMPluginMain.h>
 
@@ -44,6 +46,9 @@ ZMErr ZM_API StartupHandler(void* message) {
 }
 
 ZMErr ZM_API ShutdownHandler(void* message) {
+    DeletePanel();
+    // The survey goes with the panel that shows it, while the memory suite is still held.
+    FreeSurvey();
     ReleaseOptionalSuites(Record(message).basicSuite);
     StopFramework();
     return ZM_ERR_NONE;  // shut-down always succeeds
@@ -61,8 +66,9 @@ ZMErr ZM_API ReloadHandler(void* message) {
 
 ZMErr ZM_API UnloadHandler(void* message) {
     if (gGlobals != nullptr) {
-        // The panel object goes with the module's code; the host keeps the block, so the
-        // pointer must not outlive the unload.
+        FreeSurvey();
+        // The host closes the panel with the module's code; the block stays with the host,
+        // so the pointer must not outlive the unload.
         gGlobals->panel = nullptr;
     }
     ReleaseOptionalSuites(Record(message).basicSuite);

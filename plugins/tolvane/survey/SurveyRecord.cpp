@@ -57,7 +57,9 @@ ZMErr MakeSurvey() {
 }
 
 void FreeSurvey() {
-    if (gSurvey == nullptr) {
+    // After shut-down the suites are gone, and with them any way to give the block back;
+    // the host reclaims what a plug-in left behind.
+    if (gSurvey == nullptr || sMdMemorySuite == nullptr) {
         return;
     }
     FreeSurveyLists(gSurvey->lists);

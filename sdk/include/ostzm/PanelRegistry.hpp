@@ -24,6 +24,10 @@ public:
     // order, joined without anything between them.
     static std::string ShownText(const ZMUIBasePanel& panel);
 
+    // Closes every panel of a plug-in whose code is about to go, while the code that can
+    // destroy them is still there. The plug-in must not use them afterwards.
+    static void ClosePanelsOf(ZMPluginRef plugin);
+
 private:
     friend class ZMUIBasePanel;
     static void Add(ZMUIBasePanel* panel);

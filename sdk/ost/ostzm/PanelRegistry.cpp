@@ -50,6 +50,19 @@ std::vector<ZMUIBasePanel*> PanelRegistry::Panels() {
     return panels.live;
 }
 
+void PanelRegistry::ClosePanelsOf(ZMPluginRef plugin) {
+    std::vector<ZMUIBasePanel*> closing;
+    for (ZMUIBasePanel* panel : Panels()) {
+        if (panel->Plugin() == plugin) {
+            closing.push_back(panel);
+        }
+    }
+    // Each destructor takes its panel off the list, so none is deleted while the lock is held.
+    for (ZMUIBasePanel* panel : closing) {
+        delete panel;
+    }
+}
+
 ZMUIBasePanel* PanelRegistry::FindPanel(ZMPluginRef plugin) {
     auto& panels = ThePanels();
     std::lock_guard lock(panels.mutex);
