@@ -1,7 +1,9 @@
 #include "DocInfoCommand.hpp"
 
 #include "ExitCodes.hpp"
+#include "TerminalProgressBar.hpp"
 
+#include <document/ArtLookup.hpp>
 #include <importers/DocumentImport.hpp>
 
 #include <zelmora/ZMNotifierSuite.h>
@@ -9,6 +11,9 @@
 #include <fmt/format.h>
 #include <fmt/ostream.h>
 
+#include <unistd.h>
+
+#include <iostream>
 #include <memory>
 #include <ostream>
 
@@ -18,13 +23,24 @@ namespace {
 
 constexpr const char* kPanelPluginName = "Tolvane";
 
+// Selects each art and what it holds; true when anything was not selected before.
+bool SelectArt(const std::vector<zm::host::document::Art*>& arts) {
+    bool changed = false;
+    for (zm::host::document::Art* art : arts) {
+        changed = changed || !art->IsSelected();
+        art->SetSelected(true);
+    }
+    return changed;
+}
+
 }  // namespace
 
-int RunDocInfoCommand(const SessionOptions& sessionOptions, const DocInfoOptions& options,
+int RunDocInfoCommand(const SessionOptions& sessionOptions, DocInfoOptions& options,
                       std::ostream& /*out: the panel's text arrives with the panel*/,
                       std::ostream& errors) {
-    // Read the file before anything starts, so a document that cannot be opened costs no
-    // plug-in start-up and leaves nothing half done.
+    // Read the file and find what to select before anything starts, so a document that
+    // cannot be opened, or an id it lacks, costs no plug-in start-up and leaves nothing half
+    // done.
     std::unique_ptr<zm::host::document::Document> document;
     try {
         document = zm::host::ImportDocument(options.file);
@@ -32,8 +48,27 @@ int RunDocInfoCommand(const SessionOptions& sessionOptions, const DocInfoOptions
         fmt::print(errors, "zelmora: cannot open {}\n", error.what());
         return kExitCannotOpen;
     }
+    std::vector<zm::host::document::Art*> toSelect;
+    for (const std::string& id : options.selectIds) {
+        zm::host::document::Art* art = zm::host::document::FindArtById(*document, id);
+        if (art == nullptr) {
+            fmt::print(errors, "zelmora: {} has no element with id \"{}\"\n",
+                       options.file.string(), id);
+            return kExitBadArguments;
+        }
+        toSelect.push_back(art);
+    }
+    options.selectionOnly = !toSelect.empty();
 
-    HostSession session(sessionOptions, errors);
+    // Declared before the session, so it outlives the runtime that reports to it.
+    TerminalProgressBar bar(std::cerr);
+    SessionOptions settings = sessionOptions;
+    settings.saveAnswer = options.output;
+    if (!options.quiet && isatty(STDERR_FILENO) == 1) {
+        settings.progress = &bar;
+    }
+
+    HostSession session(settings, errors);
     auto& runtime = session.Runtime();
     if (runtime.plugins.FindByName(kPanelPluginName) == nullptr) {
         fmt::print(errors, "zelmora: the {} plug-in could not be loaded\n", kPanelPluginName);
@@ -43,6 +78,9 @@ int RunDocInfoCommand(const SessionOptions& sessionOptions, const DocInfoOptions
 
     auto& opened = runtime.documents.Add(std::move(document));
     runtime.plugins.Notify(ZM_NOTIFIER_DOCUMENT_OPENED, &opened);
+    if (SelectArt(toSelect)) {
+        runtime.plugins.Notify(ZM_NOTIFIER_ART_SELECTION_CHANGED, &opened);
+    }
 
     runtime.plugins.Notify(ZM_NOTIFIER_DOCUMENT_ABOUT_TO_CLOSE, &opened);
     runtime.documents.CloseCurrent();

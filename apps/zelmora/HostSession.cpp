@@ -38,6 +38,12 @@ HostSession::HostSession(const SessionOptions& options, std::ostream& errors) : 
     if (options.failAllocation > 0) {
         runtime_.faults.FailAllocation(options.failAllocation);
     }
+    for (const auto& [key, text] : options.preferences) {
+        runtime_.preferences.Set(key, text);
+    }
+    runtime_.localizer.SetLocale(options.locale);
+    runtime_.dialogs.saveAnswer = options.saveAnswer;
+    runtime_.progress.SetReporter(options.progress);
     runtime_.plugins.Scan(PluginFolders(options.pluginFolders));
     runtime_.plugins.StartAll();
     // An alert comes before the skip it caused, as it happened.

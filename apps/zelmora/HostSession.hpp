@@ -5,6 +5,9 @@
 #include <filesystem>
 #include <cstdint>
 #include <iosfwd>
+#include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace zelmora {
@@ -13,6 +16,11 @@ struct SessionOptions {
     std::vector<std::filesystem::path> pluginFolders;  // searched before the defaults
     // For tests of the error paths: the n-th block the host hands out (1 = the first) fails.
     int64_t failAllocation = 0;
+    // Host settings, in place before any plug-in starts.
+    std::vector<std::pair<std::string, std::string>> preferences;  // key, text
+    std::string locale = "en-US";                                  // a well-formed tag
+    std::optional<std::filesystem::path> saveAnswer;  // none: the save dialog is cancelled
+    zm::host::ProgressReporter* progress = nullptr;   // the caller's; null shows none
 };
 
 // One headless host session: the runtime, its plug-ins started from the plug-in folders,

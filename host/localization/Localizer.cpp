@@ -1,5 +1,9 @@
 #include "localization/Localizer.hpp"
 
+#include "runtime/HostError.hpp"
+
+#include <unicode/locid.h>
+
 #include <array>
 
 namespace zm::host {
@@ -17,6 +21,23 @@ std::string_view WithoutPlatformTag(std::string_view name) {
     return name;
 }
 }  // namespace
+
+bool Localizer::IsWellFormedTag(std::string_view tag) {
+    if (tag.empty()) {
+        return false;
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    icu::Locale locale = icu::Locale::forLanguageTag(
+        icu::StringPiece(tag.data(), static_cast<int32_t>(tag.size())), status);
+    return U_SUCCESS(status) && !locale.isBogus();
+}
+
+void Localizer::SetLocale(std::string tag) {
+    if (!IsWellFormedTag(tag)) {
+        throw HostError(ZM_ERR_BAD_ARGUMENT, "not a locale tag: " + tag);
+    }
+    locale_ = std::move(tag);
+}
 
 void Localizer::AddTranslation(std::string keyName, std::string text) {
     translations_[std::string(WithoutPlatformTag(keyName))] = std::move(text);

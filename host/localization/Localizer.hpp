@@ -11,7 +11,10 @@ namespace zm::host {
 // after the first "=". A text that is not a key is its own translation.
 class Localizer {
 public:
-    void SetLocale(std::string tag) { locale_ = std::move(tag); }
+    // A BCP 47 tag ("en-US", "de-DE"); throws HostError(ZM_ERR_BAD_ARGUMENT) for text that is
+    // not one. The tag also picks the conventions numbers are formatted with.
+    void SetLocale(std::string tag);
+    static bool IsWellFormedTag(std::string_view tag);
     const std::string& Locale() const { return locale_; }
 
     // keyName is the part before "=", with or without its platform tag.

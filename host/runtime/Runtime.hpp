@@ -6,6 +6,7 @@
 #include "runtime/AlertLog.hpp"
 #include "runtime/BlockAllocator.hpp"
 #include "runtime/ContextStack.hpp"
+#include "runtime/DialogAnswers.hpp"
 #include "runtime/DocumentList.hpp"
 #include "runtime/FaultPlan.hpp"
 #include "runtime/LiveCornersObjects.hpp"
@@ -16,6 +17,7 @@
 #include "runtime/NamedPlugins.hpp"
 #include "runtime/NotifierCenter.hpp"
 #include "runtime/Preferences.hpp"
+#include "runtime/ProgressDisplay.hpp"
 
 #include <string>
 #include <vector>
@@ -58,6 +60,8 @@ public:
     LiveCornersObjects liveCorners;
     Preferences preferences;
     HostObjects objects;  // what plug-ins hold by handle and give back
+    ProgressDisplay progress;
+    DialogAnswers dialogs;
     // Last, so that plug-ins still loaded are stopped while everything else still exists.
     PluginManager plugins;
 };

@@ -41,6 +41,9 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterArtStyleParserSuite(registry);
     RegisterBlendStyleSuite(registry);
     RegisterBrushMgrSuite(registry);
+    RegisterStringFormatUtilsSuite(registry);
+    RegisterColorConversionSuite(registry);
+    RegisterDocumentTextResourcesSuite(registry);
     RegisterPendingSuites(registry);
 }
 

@@ -41,6 +41,9 @@ void RegisterArtStyleSuite(SuiteRegistry& registry);
 void RegisterArtStyleParserSuite(SuiteRegistry& registry);
 void RegisterBlendStyleSuite(SuiteRegistry& registry);
 void RegisterBrushMgrSuite(SuiteRegistry& registry);
+void RegisterStringFormatUtilsSuite(SuiteRegistry& registry);
+void RegisterColorConversionSuite(SuiteRegistry& registry);
+void RegisterDocumentTextResourcesSuite(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host

@@ -7,8 +7,6 @@ namespace tolvane {
 
 namespace {
 
-constexpr int16_t kDefaultPrecision = -1;
-
 // The entry of a table, or ZM_ERR_SUITE_NOT_FOUND when the host leaves it empty.
 template <typename Entry>
 Entry Require(Entry entry) {
@@ -22,13 +20,13 @@ Entry Require(Entry entry) {
 
 HostString RulerUnitsName() {
     HostString name = HostString::Empty();
-    zm::Check(Require(sUserSuite->GetUnitsString)(ZM_UNITS_FORMAT_NAME, name.Get()));
+    zm::Check(Require(sUserSuite->GetUnitsString)(ZM_UNITS_FORMAT_PLURAL, name.Get()));
     return name;
 }
 
 HostString FormatInRulerUnits(double value) {
     HostString text = HostString::Empty();
-    zm::Check(Require(sUserSuite->FormatValueInUnits)(value, kDefaultPrecision, text.Get()));
+    zm::Check(Require(sUserSuite->FormatUnits)(value, ZM_UNITS_DEFAULT_PRECISION, text.Get()));
     return text;
 }
 

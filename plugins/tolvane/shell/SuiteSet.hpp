@@ -145,7 +145,7 @@ extern const void* sKrxTextLineSuite;
 extern const void* sKrxTextLinesIteratorSuite;
 extern const void* sKrxTextResourcesSuite;
 extern const void* sKrxApplicationTextResourcesSuite;
-extern const ZMKRXDocumentTextResourcesSuite* sKrxDocumentTextResourcesSuite;
+extern const KRXDocumentTextResourcesSuite* sKrxDocumentTextResourcesSuite;
 extern const void* sKrxVersionInfoSuite;
 extern const void* sKrxArrayApplicationPaintRefSuite;
 extern const void* sKrxArrayRealSuite;

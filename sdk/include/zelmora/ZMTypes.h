@@ -35,6 +35,7 @@ typedef int32_t ZMErr;
 #define ZM_ERR_BUFFER_TOO_SMALL ZM_FOUR_CHAR('B', 'U', 'F', '!')
 #define ZM_ERR_NOT_STARTED     ZM_FOUR_CHAR('S', 'T', 'R', '?')
 #define ZM_ERR_WRONG_TYPE      ZM_FOUR_CHAR('T', 'Y', 'P', '?') /* a value of another type is stored */
+#define ZM_ERR_USER_CANCELED   ZM_FOUR_CHAR('S', 'T', 'O', 'P') /* the user cancelled a dialog */
 #define ZM_ERR_INTERNAL        ZM_FOUR_CHAR('I', 'N', 'T', '!')
 
 /* Opaque handles: pointers to incomplete structs, so the compiler keeps them apart. */

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "plugins/tolvane/StandInSuites.hpp"
 
 #include <document/Document.hpp>
 #include <loader/LoadedPlugin.hpp>
@@ -39,7 +38,6 @@ protected:
                       ZM_ERR_NONE)
                 << row->name;
         }
-        InstallStandInSuites();
     }
 
     void TearDown() override {
