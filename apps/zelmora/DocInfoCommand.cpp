@@ -1,6 +1,7 @@
 #include "DocInfoCommand.hpp"
 
 #include "ExitCodes.hpp"
+#include "PanelDriver.hpp"
 #include "TerminalProgressBar.hpp"
 
 #include <document/ArtLookup.hpp>
@@ -22,6 +23,7 @@ namespace zelmora {
 namespace {
 
 constexpr const char* kPanelPluginName = "Tolvane";
+constexpr int32_t kDocumentMode = 2;
 
 // Selects each art and what it holds; true when anything was not selected before.
 bool SelectArt(const std::vector<zm::host::document::Art*>& arts) {
@@ -36,8 +38,14 @@ bool SelectArt(const std::vector<zm::host::document::Art*>& arts) {
 }  // namespace
 
 int RunDocInfoCommand(const SessionOptions& sessionOptions, DocInfoOptions& options,
-                      std::ostream& /*out: the panel's text arrives with the panel*/,
-                      std::ostream& errors) {
+                      std::ostream& out, std::ostream& errors) {
+    // The categories other than Document show what the art survey found; until the survey
+    // runs they would show empty lists as if the document held nothing.
+    if (options.mode && *options.mode != kDocumentMode) {
+        fmt::print(errors, "zelmora: only the document category can be shown so far\n");
+        return kExitBadArguments;
+    }
+
     // Read the file and find what to select before anything starts, so a document that
     // cannot be opened, or an id it lacks, costs no plug-in start-up and leaves nothing half
     // done.
@@ -70,7 +78,8 @@ int RunDocInfoCommand(const SessionOptions& sessionOptions, DocInfoOptions& opti
 
     HostSession session(settings, errors);
     auto& runtime = session.Runtime();
-    if (runtime.plugins.FindByName(kPanelPluginName) == nullptr) {
+    zm::host::LoadedPlugin* plugin = runtime.plugins.FindByName(kPanelPluginName);
+    if (plugin == nullptr) {
         fmt::print(errors, "zelmora: the {} plug-in could not be loaded\n", kPanelPluginName);
         return kExitPluginNotLoaded;
     }
@@ -80,6 +89,17 @@ int RunDocInfoCommand(const SessionOptions& sessionOptions, DocInfoOptions& opti
     runtime.plugins.Notify(ZM_NOTIFIER_DOCUMENT_OPENED, &opened);
     if (SelectArt(toSelect)) {
         runtime.plugins.Notify(ZM_NOTIFIER_ART_SELECTION_CHANGED, &opened);
+    }
+
+    if (options.mode) {
+        // As a user would: open the panel from its menu item, set Selection Only, choose
+        // the category, read the text.
+        PanelDriver panel(runtime, *plugin);
+        panel.ShowPanel();
+        panel.SetSelectionOnly(options.selectionOnly);
+        panel.ChooseCategory(*options.mode);
+        out << panel.ShownText();
+        out.flush();
     }
 
     runtime.plugins.Notify(ZM_NOTIFIER_DOCUMENT_ABOUT_TO_CLOSE, &opened);
