@@ -45,7 +45,7 @@ protected:
 };
 
 TEST_F(DocInfoOptionsTest, EveryOptionTogetherIsAccepted) {
-    CommandResult run = DocInfo({"-c", "fonts", "-o", (scratch_.Path() / "out.txt").string(),
+    CommandResult run = DocInfo({"-c", "document", "-o", (scratch_.Path() / "out.txt").string(),
                                  "--select", "a", "--select", "pair", "--pref", "rulerType=0",
                                  "--pref", "x=1", "--locale", "de-DE", "-q"});
     EXPECT_EQ(run.exitStatus, kExitDone) << run.errors;
@@ -54,7 +54,7 @@ TEST_F(DocInfoOptionsTest, EveryOptionTogetherIsAccepted) {
 
 TEST_F(DocInfoOptionsTest, NoProgressBarReachesAnErrorStreamThatIsNoTerminal) {
     // Standard error is a pipe here, so even without -q nothing is drawn on it.
-    CommandResult run = DocInfo({"--category", "objects"});
+    CommandResult run = DocInfo({"--category", "document"});
     EXPECT_EQ(run.exitStatus, kExitDone) << run.errors;
     EXPECT_EQ(run.errors, "");
 }
