@@ -4,5 +4,4 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
 build/out/bin/zelmora plugins
-build/out/bin/zelmora docinfo samples/poster.svg
-echo "samples/poster.svg opened and closed"
+build/out/bin/zelmora docinfo --category document samples/poster.svg
