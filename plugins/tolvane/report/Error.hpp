@@ -19,6 +19,17 @@ private:
     ZMErr code_;
 };
 
+// Runs body, which returns a code or throws Error, and gives the code either way: where the
+// host's failures, thrown deep inside string work, become a function's result.
+template <typename Body>
+ZMErr CodeOf(Body&& body) {
+    try {
+        return body();
+    } catch (const Error& error) {
+        return error.Code();
+    }
+}
+
 // Throws the code of a failed host call.
 inline void Check(ZMErr code) {
     if (code != ZM_ERR_NONE) {

@@ -40,22 +40,13 @@ ZMErr AppendNone(ReportText& text) {
     return AppendReportLine(text, none.Get(), 1);
 }
 
-template <typename Body>
-ZMErr Guard(Body&& body) {
-    try {
-        return body();
-    } catch (const zm::Error& error) {
-        return error.Code();
-    }
-}
-
 }  // namespace
 
 ZMErr AppendNameList(ReportText& text, const SurveyStringList& list, int16_t titleIndex) {
     if (ZMErr error = AppendSectionTitle(text, titleIndex); error != ZM_ERR_NONE) {
         return error;
     }
-    return Guard([&]() -> ZMErr {
+    return zm::CodeOf([&]() -> ZMErr {
         if (list.first == nullptr) {
             return AppendNone(text);
         }
@@ -76,7 +67,7 @@ ZMErr AppendCountList(ReportText& text, const SurveyStringList& list, int16_t ti
     if (ZMErr error = AppendSectionTitle(text, titleIndex); error != ZM_ERR_NONE) {
         return error;
     }
-    return Guard([&]() -> ZMErr {
+    return zm::CodeOf([&]() -> ZMErr {
         if (list.first == nullptr) {
             return AppendNone(text);
         }

@@ -90,12 +90,11 @@ void Insert(SurveyStringList& list, SurveyStringIndex& index, ZMUnicodeString te
     Link(list, index, node, before);
 }
 
+// A node the index cannot take is as much a want of memory as a node the host cannot give.
 template <typename Body>
 ZMErr Guard(Body&& body) {
     try {
-        return body();
-    } catch (const zm::Error& error) {
-        return error.Code();
+        return zm::CodeOf(body);
     } catch (const std::bad_alloc&) {
         return ZM_ERR_NO_MEMORY;
     }
