@@ -40,11 +40,11 @@ protected:
         ShowWithDocument();
     }
 
-    // Turns the document's colour model over (RGB and CMYK), sends the notification, and
-    // tells whether the panel now shows the new model: only a refresh reads it again.
+    // Gives the document the colour model (RGB or CMYK) the panel does not show, sends the
+    // notification, and tells whether the panel now shows it: only a refresh reads it again.
     bool ShowsChangeAfter(const char* type, void* data) {
         host::document::Document& document = *Runtime().documents.Current();
-        bool toCmyk = document.colorModel != host::document::kColorModelCmyk;
+        bool toCmyk = Shown().find("Color Mode: CMYK color\r\n") == std::string::npos;
         document.colorModel =
             toCmyk ? host::document::kColorModelCmyk : host::document::kColorModelRgb;
         EXPECT_EQ(Notify(type, data), ZM_ERR_NONE);
