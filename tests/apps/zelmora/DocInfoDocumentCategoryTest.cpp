@@ -34,17 +34,18 @@ struct DocumentLines {
 // single line end. Labels whose text ends in a blank take their value directly; the others
 // get one blank first.
 std::string SectionText(const std::string& path, const DocumentLines& lines) {
-    return "Document:\r\n\r\n"
-           "Name: " + path + "\r\n\r\n"
-           "Color Mode: " + lines.colorMode + "\r\n"
-           "Color Profile: " + lines.profile + "\r\n"
-           "Ruler Units: " + lines.units + "\r\n"
-           "Artboard Dimensions: " + lines.dimensions + "\r\n"
-           "Show Images in Outline Mode: " + lines.outline + "\r\n"
-           "Highlight Substituted Fonts: " + lines.highlightFonts + "\r\n"
-           "Highlight Substituted Glyphs: " + lines.highlightGlyphs + "\r\n" +
-           lines.textLine + "\r\n"
-           "Simulate Colored Paper: " + lines.paper + "\r\n";
+    std::string text = "Document:\r\n\r\n";
+    text += "Name: " + path + "\r\n\r\n";
+    text += "Color Mode: " + lines.colorMode + "\r\n";
+    text += "Color Profile: " + lines.profile + "\r\n";
+    text += "Ruler Units: " + lines.units + "\r\n";
+    text += "Artboard Dimensions: " + lines.dimensions + "\r\n";
+    text += "Show Images in Outline Mode: " + lines.outline + "\r\n";
+    text += "Highlight Substituted Fonts: " + lines.highlightFonts + "\r\n";
+    text += "Highlight Substituted Glyphs: " + lines.highlightGlyphs + "\r\n";
+    text += lines.textLine + "\r\n";
+    text += "Simulate Colored Paper: " + lines.paper + "\r\n";
+    return text;
 }
 
 CommandResult DocumentCategory(const std::string& file, std::vector<std::string> options = {}) {
@@ -73,6 +74,13 @@ TEST(DocInfoDocumentCategoryTest, ACmykDocumentWithoutAProfileShowsNone) {
     lines.colorMode = "CMYK color";
     lines.profile = "none";  // the CMYK profile handle is null
     ExpectSection("cmyk-no-profile.svg", lines);
+}
+
+TEST(DocInfoDocumentCategoryTest, AGrayDocumentWithoutAProfileShowsNone) {
+    DocumentLines lines;
+    lines.colorMode = "gray color";
+    lines.profile = "none";  // the gray profile handle is null
+    ExpectSection("gray-no-profile.svg", lines);
 }
 
 TEST(DocInfoDocumentCategoryTest, AnUnknownColourModelShowsUnknownColorAndNoProfile) {

@@ -38,7 +38,9 @@ protected:
 
     ostzm::ZMUIBasePanel* Panel() { return ostzm::PanelRegistry::FindPanel(host.Tolvane().Ref()); }
     ostui::FlyoutMenu& Flyout() { return *Panel()->GetFlyoutMenu(); }
-    ostui::ListBox& List() { return *Panel()->GetView()->FindChildAs<ostui::ListBox>("TolvaneList"); }
+    ostui::ListBox& List() {
+        return *Panel()->GetView()->FindChildAs<ostui::ListBox>("TolvaneList");
+    }
     std::string Shown() { return ostzm::PanelRegistry::ShownText(*Panel()); }
 
     ZMErr Notify(const char* type, void* data = nullptr) {
@@ -47,9 +49,7 @@ protected:
 
     // The "&Document Info" menu item, as a user chooses it.
     ZMErr RunMenuItem() { return host.Runtime().plugins.RunMenuItem(Globals().menuItem); }
-    bool MenuItemChecked() {
-        return host.Runtime().menus.Items().at(0)->checked;
-    }
+    bool MenuItemChecked() { return host.Runtime().menus.Items().at(0)->checked; }
 
     // An untitled RGB document of 100 x 50 px holding one rectangle.
     host::document::Document& OpenDocument() {

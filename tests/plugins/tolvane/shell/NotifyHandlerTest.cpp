@@ -85,8 +85,8 @@ TEST_F(NotifyHandlerTest, TheObserverSeesARefreshOfAShownPanel) {
     // category except selection and properties changes.
     int next = 0;
     for (const char* type : kRefreshingKinds) {
-        bool filtered = std::string(type) == kSelectionChanged ||
-                        std::string(type) == kPropertiesChanged;
+        bool filtered =
+            std::string(type) == kSelectionChanged || std::string(type) == kPropertiesChanged;
         EXPECT_EQ(ShowsChangeAfter(type, &data[next++]), !filtered) << type;
     }
 }
