@@ -46,5 +46,21 @@ TEST_F(MenuCommandHandlerTest, TheMenuItemUsesThePanelMadeAtStartUp) {
     EXPECT_EQ(ostzm::PanelRegistry::Panels().size(), 1u);
 }
 
+TEST(MenuCommandHandlerWithoutPanelTest, TheMenuItemMakesThePanelWhenThereIsNoneAndShowsIt) {
+    TestHost host;
+    ASSERT_EQ(host.Start(), ZM_ERR_NONE);
+    // No start notice yet, so no panel.
+    ASSERT_EQ(ostzm::PanelRegistry::FindPanel(host.Tolvane().Ref()), nullptr);
+    const auto& globals = *static_cast<const tolvane::Globals*>(host.Tolvane().globals);
+    EXPECT_EQ(host.Runtime().plugins.RunMenuItem(globals.menuItem), ZM_ERR_NONE);
+    ostzm::ZMUIBasePanel* panel = ostzm::PanelRegistry::FindPanel(host.Tolvane().Ref());
+    ASSERT_NE(panel, nullptr);
+    EXPECT_TRUE(panel->IsVisible());
+    EXPECT_TRUE(host.Runtime().menus.Items().at(0)->checked);
+    EXPECT_EQ(host.Stop(), ZM_ERR_NONE);
+    // Shut-down deletes it.
+    EXPECT_TRUE(ostzm::PanelRegistry::Panels().empty());
+}
+
 }  // namespace
 }  // namespace zm::test
