@@ -27,29 +27,7 @@ protected:
         Acquire(ZM_FILE_PATH_SUITE_NAME, ZM_FILE_PATH_SUITE_VERSION, paths);
     }
 
-    void TearDown() override {
-        for (ZMFilePath path : paths_) {
-            EXPECT_EQ(paths->DisposeFilePath(path), ZM_ERR_NONE);
-        }
-        DocumentSuiteFixture::TearDown();
-    }
-
-    ZMFilePath NewPath() {
-        ZMFilePath path = nullptr;
-        EXPECT_EQ(paths->NewFilePath(&path), ZM_ERR_NONE);
-        paths_.push_back(path);
-        return path;
-    }
-
-    std::filesystem::path PathOf(ZMFilePath path) {
-        return runtime.objects.Require<std::filesystem::path>(path);
-    }
-
     const ZMDocumentSuite* documents = nullptr;
-    const ZMFilePathSuite* paths = nullptr;
-
-private:
-    std::vector<ZMFilePath> paths_;
 };
 
 ZMDocumentHandle HandleOf(document::Document& document) {

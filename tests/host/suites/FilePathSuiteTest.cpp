@@ -18,17 +18,12 @@ protected:
     }
 
     void TearDown() override {
-        for (ZMFilePath path : owned_) {
-            EXPECT_EQ(paths->DisposeFilePath(path), ZM_ERR_NONE);
-        }
-        EXPECT_EQ(runtime.objects.Count<std::filesystem::path>(), 0u);  // every path given back
         DocumentSuiteFixture::TearDown();
+        EXPECT_EQ(runtime.objects.Count<std::filesystem::path>(), 0u);  // every path given back
     }
 
     ZMFilePath Path(std::string_view text) {
-        ZMFilePath path = nullptr;
-        EXPECT_EQ(paths->NewFilePath(&path), ZM_ERR_NONE);
-        owned_.push_back(path);
+        ZMFilePath path = NewPath();
         EXPECT_EQ(paths->SetFromString(path, String(text)), ZM_ERR_NONE);
         return path;
     }
@@ -45,10 +40,6 @@ protected:
         return Text(text);
     }
 
-    const ZMFilePathSuite* paths = nullptr;
-
-private:
-    std::vector<ZMFilePath> owned_;
 };
 
 TEST_F(FilePathSuiteTest, ANewPathIsEmpty) {

@@ -49,13 +49,6 @@ protected:
         Acquire(ZM_FILE_PATH_SUITE_NAME, ZM_FILE_PATH_SUITE_VERSION, paths);
     }
 
-    void TearDown() override {
-        for (ZMFilePath path : paths_) {
-            EXPECT_EQ(paths->DisposeFilePath(path), ZM_ERR_NONE);
-        }
-        DocumentSuiteFixture::TearDown();
-    }
-
     document::Document& OpenIn(RulerUnits units) {
         document::Document& document = Open();
         document.rulerUnits = units;
@@ -74,22 +67,7 @@ protected:
         return Text(text);
     }
 
-    ZMFilePath NewPath() {
-        ZMFilePath path = nullptr;
-        EXPECT_EQ(paths->NewFilePath(&path), ZM_ERR_NONE);
-        paths_.push_back(path);
-        return path;
-    }
-
-    std::filesystem::path PathOf(ZMFilePath path) {
-        return runtime.objects.Require<std::filesystem::path>(path);
-    }
-
     const ZMUserSuite* user = nullptr;
-    const ZMFilePathSuite* paths = nullptr;
-
-private:
-    std::vector<ZMFilePath> paths_;
 };
 
 TEST_F(UserSuiteTest, EveryEntryIsFilledIn) {

@@ -96,7 +96,6 @@ protected:
 
     const ZMDocumentSuite* documents = nullptr;
     const ZMArtboardSuite* artboards = nullptr;
-    const ZMFilePathSuite* paths = nullptr;
     const ZMDictionarySuite* dictionaries = nullptr;
 };
 
