@@ -7,48 +7,48 @@ ZMBasicSuite* sBasicSuite = nullptr;
 const PXMBasicSuite* sPxmBasicSuite = nullptr;
 const ZMMenuSuite* sMenuSuite = nullptr;
 const ZMNotifierSuite* sNotifierSuite = nullptr;
-const void* sArtSuite = nullptr;
+const ZMArtSuite* sArtSuite = nullptr;
 const void* sArtboardSuite = nullptr;
-const void* sArtStyleSuite = nullptr;
-const void* sArtStyleParserSuite = nullptr;
-const void* sBlendStyleSuite = nullptr;
-const void* sBrushMgrSuite = nullptr;
-const void* sCustomColorSuite = nullptr;
+const ZMArtStyleSuite* sArtStyleSuite = nullptr;
+const ZMArtStyleParserSuite* sArtStyleParserSuite = nullptr;
+const ZMBlendStyleSuite* sBlendStyleSuite = nullptr;
+const ZMBrushMgrSuite* sBrushMgrSuite = nullptr;
+const ZMCustomColorSuite* sCustomColorSuite = nullptr;
 const void* sCharacterEncodingSuite = nullptr;
-const void* sDataFilterSuite = nullptr;
+const ZMDataFilterSuite* sDataFilterSuite = nullptr;
 const void* sDevUtilsSuite = nullptr;
 const ZMDictionarySuite* sDictionarySuite = nullptr;
 const ZMDocumentSuite* sDocumentSuite = nullptr;
 const ZMFilePathSuite* sFilePathSuite = nullptr;
 const void* sFontSuite = nullptr;
 const void* sFontGlueSuite = nullptr;
-const void* sGradientSuite = nullptr;
-const void* sGraphSuite = nullptr;
-const void* sLayerSuite = nullptr;
-const void* sLayerListSuite = nullptr;
+const ZMGradientSuite* sGradientSuite = nullptr;
+const ZMGraphSuite* sGraphSuite = nullptr;
+const ZMLayerSuite* sLayerSuite = nullptr;
+const ZMLayerListSuite* sLayerListSuite = nullptr;
 const void* sLiveEffectSuite = nullptr;
-const void* sMaskSuite = nullptr;
-const void* sMatchingArtSuite = nullptr;
+const ZMMaskSuite* sMaskSuite = nullptr;
+const ZMMatchingArtSuite* sMatchingArtSuite = nullptr;
 const ZMMdMemorySuite* sMdMemorySuite = nullptr;
-const void* sMeshSuite = nullptr;
+const ZMMeshSuite* sMeshSuite = nullptr;
 const ZMColorConversionSuite* sOverrideColorConversionSuite = nullptr;
-const void* sPathSuite = nullptr;
-const void* sPathStyleSuite = nullptr;
-const void* sPatternSuite = nullptr;
+const ZMPathSuite* sPathSuite = nullptr;
+const ZMPathStyleSuite* sPathStyleSuite = nullptr;
+const ZMPatternSuite* sPatternSuite = nullptr;
 const void* sQuorvelPipSuite = nullptr;
 const void* sPlacedSuite = nullptr;
-const void* sPluginGroupSuite = nullptr;
-const void* sPreferenceSuite = nullptr;
+const ZMPluginGroupSuite* sPluginGroupSuite = nullptr;
+const ZMPreferenceSuite* sPreferenceSuite = nullptr;
 const void* sRasterSuite = nullptr;
-const void* sSymbolSuite = nullptr;
+const ZMSymbolSuite* sSymbolSuite = nullptr;
 const ZMUserSuite* sUserSuite = nullptr;
 const void* sWorkspaceSuite = nullptr;
-const void* sHvPluginsSuite = nullptr;
+const HVPluginsSuite* sHvPluginsSuite = nullptr;
 const ZMLMBPluginSuite* sLmbPluginSuite = nullptr;
 const ZMLMBUtilsSuite* sLmbUtilsSuite = nullptr;
 const ZMUnicodeStringSuite* sUnicodeStringSuite = nullptr;
-const void* sColorSpaceSuite = nullptr;
-const void* sStringFormatUtilsSuite = nullptr;
+const ZMColorSpaceSuite* sColorSpaceSuite = nullptr;
+const ZMStringFormatUtilsSuite* sStringFormatUtilsSuite = nullptr;
 const void* sHvBlocksSuite = nullptr;
 const void* sTextFrameSuite = nullptr;
 const void* sFoConversionSuite = nullptr;
@@ -159,48 +159,48 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_FRAMEWORK, ZM_PXM_BASIC_SUITE_NAME, ZM_PXM_BASIC_SUITE_VERSION, Target(&sPxmBasicSuite)},
     {ZM_SUITE_KIND_FRAMEWORK, ZM_MENU_SUITE_NAME, ZM_MENU_SUITE_VERSION, Target(&sMenuSuite)},
     {ZM_SUITE_KIND_FRAMEWORK, ZM_NOTIFIER_SUITE_NAME, ZM_NOTIFIER_SUITE_VERSION, Target(&sNotifierSuite)},
-    {ZM_SUITE_KIND_REQUIRED, ZM_ART_SUITE_NAME, ZM_ART_SUITE_VERSION, &sArtSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_ART_SUITE_NAME, ZM_ART_SUITE_VERSION, Target(&sArtSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_ARTBOARD_SUITE_NAME, ZM_ARTBOARD_SUITE_VERSION, &sArtboardSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_ART_STYLE_SUITE_NAME, ZM_ART_STYLE_SUITE_VERSION, &sArtStyleSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_ART_STYLE_PARSER_SUITE_NAME, ZM_ART_STYLE_PARSER_SUITE_VERSION, &sArtStyleParserSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_BLEND_STYLE_SUITE_NAME, ZM_BLEND_STYLE_SUITE_VERSION, &sBlendStyleSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_BRUSH_MGR_SUITE_NAME, ZM_BRUSH_MGR_SUITE_VERSION, &sBrushMgrSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_CUSTOM_COLOR_SUITE_NAME, ZM_CUSTOM_COLOR_SUITE_VERSION, &sCustomColorSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_ART_STYLE_SUITE_NAME, ZM_ART_STYLE_SUITE_VERSION, Target(&sArtStyleSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_ART_STYLE_PARSER_SUITE_NAME, ZM_ART_STYLE_PARSER_SUITE_VERSION, Target(&sArtStyleParserSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_BLEND_STYLE_SUITE_NAME, ZM_BLEND_STYLE_SUITE_VERSION, Target(&sBlendStyleSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_BRUSH_MGR_SUITE_NAME, ZM_BRUSH_MGR_SUITE_VERSION, Target(&sBrushMgrSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_CUSTOM_COLOR_SUITE_NAME, ZM_CUSTOM_COLOR_SUITE_VERSION, Target(&sCustomColorSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_CHARACTER_ENCODING_SUITE_NAME, ZM_CHARACTER_ENCODING_SUITE_VERSION, &sCharacterEncodingSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_DATA_FILTER_SUITE_NAME, ZM_DATA_FILTER_SUITE_VERSION, &sDataFilterSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_DATA_FILTER_SUITE_NAME, ZM_DATA_FILTER_SUITE_VERSION, Target(&sDataFilterSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_DEV_UTILS_SUITE_NAME, ZM_DEV_UTILS_SUITE_VERSION, &sDevUtilsSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_DICTIONARY_SUITE_NAME, ZM_DICTIONARY_SUITE_VERSION, Target(&sDictionarySuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_DOCUMENT_SUITE_NAME, ZM_DOCUMENT_SUITE_VERSION, Target(&sDocumentSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_FILE_PATH_SUITE_NAME, ZM_FILE_PATH_SUITE_VERSION, Target(&sFilePathSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_FONT_SUITE_NAME, ZM_FONT_SUITE_VERSION, &sFontSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_FONT_GLUE_SUITE_NAME, ZM_FONT_GLUE_SUITE_VERSION, &sFontGlueSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_GRADIENT_SUITE_NAME, ZM_GRADIENT_SUITE_VERSION, &sGradientSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_GRAPH_SUITE_NAME, ZM_GRAPH_SUITE_VERSION, &sGraphSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_LAYER_SUITE_NAME, ZM_LAYER_SUITE_VERSION, &sLayerSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_LAYER_LIST_SUITE_NAME, ZM_LAYER_LIST_SUITE_VERSION, &sLayerListSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_GRADIENT_SUITE_NAME, ZM_GRADIENT_SUITE_VERSION, Target(&sGradientSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_GRAPH_SUITE_NAME, ZM_GRAPH_SUITE_VERSION, Target(&sGraphSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_LAYER_SUITE_NAME, ZM_LAYER_SUITE_VERSION, Target(&sLayerSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_LAYER_LIST_SUITE_NAME, ZM_LAYER_LIST_SUITE_VERSION, Target(&sLayerListSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_LIVE_EFFECT_SUITE_NAME, ZM_LIVE_EFFECT_SUITE_VERSION, &sLiveEffectSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_MASK_SUITE_NAME, ZM_MASK_SUITE_VERSION, &sMaskSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_MATCHING_ART_SUITE_NAME, ZM_MATCHING_ART_SUITE_VERSION, &sMatchingArtSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_MASK_SUITE_NAME, ZM_MASK_SUITE_VERSION, Target(&sMaskSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_MATCHING_ART_SUITE_NAME, ZM_MATCHING_ART_SUITE_VERSION, Target(&sMatchingArtSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_MD_MEMORY_SUITE_NAME, ZM_MD_MEMORY_SUITE_VERSION, Target(&sMdMemorySuite)},
-    {ZM_SUITE_KIND_REQUIRED, ZM_MESH_SUITE_NAME, ZM_MESH_SUITE_VERSION, &sMeshSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_MESH_SUITE_NAME, ZM_MESH_SUITE_VERSION, Target(&sMeshSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_OVERRIDE_COLOR_CONVERSION_SUITE_NAME, ZM_OVERRIDE_COLOR_CONVERSION_SUITE_VERSION, Target(&sOverrideColorConversionSuite)},
-    {ZM_SUITE_KIND_REQUIRED, ZM_PATH_SUITE_NAME, ZM_PATH_SUITE_VERSION, &sPathSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_PATH_STYLE_SUITE_NAME, ZM_PATH_STYLE_SUITE_VERSION, &sPathStyleSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_PATTERN_SUITE_NAME, ZM_PATTERN_SUITE_VERSION, &sPatternSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_PATH_SUITE_NAME, ZM_PATH_SUITE_VERSION, Target(&sPathSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_PATH_STYLE_SUITE_NAME, ZM_PATH_STYLE_SUITE_VERSION, Target(&sPathStyleSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_PATTERN_SUITE_NAME, ZM_PATTERN_SUITE_VERSION, Target(&sPatternSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_QUORVEL_PIP_SUITE_NAME, ZM_QUORVEL_PIP_SUITE_VERSION, &sQuorvelPipSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_PLACED_SUITE_NAME, ZM_PLACED_SUITE_VERSION, &sPlacedSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_PLUGIN_GROUP_SUITE_NAME, ZM_PLUGIN_GROUP_SUITE_VERSION, &sPluginGroupSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_PREFERENCE_SUITE_NAME, ZM_PREFERENCE_SUITE_VERSION, &sPreferenceSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_PLUGIN_GROUP_SUITE_NAME, ZM_PLUGIN_GROUP_SUITE_VERSION, Target(&sPluginGroupSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_PREFERENCE_SUITE_NAME, ZM_PREFERENCE_SUITE_VERSION, Target(&sPreferenceSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_RASTER_SUITE_NAME, ZM_RASTER_SUITE_VERSION, &sRasterSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_SYMBOL_SUITE_NAME, ZM_SYMBOL_SUITE_VERSION, &sSymbolSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_SYMBOL_SUITE_NAME, ZM_SYMBOL_SUITE_VERSION, Target(&sSymbolSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_USER_SUITE_NAME, ZM_USER_SUITE_VERSION, Target(&sUserSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_WORKSPACE_SUITE_NAME, ZM_WORKSPACE_SUITE_VERSION, &sWorkspaceSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_HV_PLUGINS_SUITE_NAME, ZM_HV_PLUGINS_SUITE_VERSION, &sHvPluginsSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_HV_PLUGINS_SUITE_NAME, ZM_HV_PLUGINS_SUITE_VERSION, Target(&sHvPluginsSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_LMB_PLUGIN_SUITE_NAME, ZM_LMB_PLUGIN_SUITE_VERSION, Target(&sLmbPluginSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_LMB_UTILS_SUITE_NAME, ZM_LMB_UTILS_SUITE_VERSION, Target(&sLmbUtilsSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_UNICODE_STRING_SUITE_NAME, ZM_UNICODE_STRING_SUITE_VERSION, Target(&sUnicodeStringSuite)},
-    {ZM_SUITE_KIND_REQUIRED, ZM_COLOR_SPACE_SUITE_NAME, ZM_COLOR_SPACE_SUITE_VERSION, &sColorSpaceSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_STRING_FORMAT_UTILS_SUITE_NAME, ZM_STRING_FORMAT_UTILS_SUITE_VERSION, &sStringFormatUtilsSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_COLOR_SPACE_SUITE_NAME, ZM_COLOR_SPACE_SUITE_VERSION, Target(&sColorSpaceSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_STRING_FORMAT_UTILS_SUITE_NAME, ZM_STRING_FORMAT_UTILS_SUITE_VERSION, Target(&sStringFormatUtilsSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_HV_BLOCKS_SUITE_NAME, ZM_HV_BLOCKS_SUITE_VERSION, &sHvBlocksSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_TEXT_FRAME_SUITE_NAME, ZM_TEXT_FRAME_SUITE_VERSION, &sTextFrameSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_FO_CONVERSION_SUITE_NAME, ZM_FO_CONVERSION_SUITE_VERSION, &sFoConversionSuite},
