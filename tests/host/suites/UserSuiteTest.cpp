@@ -1,6 +1,6 @@
 #include "host/suites/DocumentSuiteFixture.hpp"
 
-#include <runtime/ProgressReporter.hpp>
+#include "support/RecordingReporter.hpp"
 
 #include <zelmora/ZMFilePathSuite.h>
 #include <zelmora/ZMUserSuite.h>
@@ -26,20 +26,7 @@ static_assert(sizeof(ZMUserSuite) == 43 * sizeof(void*));
 
 using document::RulerUnits;
 
-// Every progress call that reaches the reporter, as text.
-class RecordingReporter : public ProgressReporter {
-public:
-    void Begin(const std::string& text) override { calls.push_back("begin " + text); }
-    void Retitle(const std::string& text) override { calls.push_back("retitle " + text); }
-    void Update(int32_t current, int32_t maximum) override {
-        calls.push_back("update " + std::to_string(current) + "/" + std::to_string(maximum));
-    }
-    void End() override { calls.push_back("end"); }
-    bool IsCancelled() override { return cancelled; }
-
-    std::vector<std::string> calls;
-    bool cancelled = false;
-};
+using zm::test::RecordingReporter;
 
 class UserSuiteTest : public zm::test::DocumentSuiteFixture {
 protected:

@@ -1,0 +1,286 @@
+#include "survey/ArtWalk.hpp"
+
+#include "report/Error.hpp"
+#include "report/LoadTolvaneString.hpp"
+#include "shell/Globals.hpp"
+#include "shell/SuiteSet.hpp"
+#include "survey/PluginGroups.hpp"
+#include "survey/SurveyRecord.hpp"
+
+#include <initializer_list>
+
+namespace tolvane {
+
+namespace {
+
+// Flatness for path lengths, in points.
+constexpr double kPathLengthFlatness = 0.5;
+
+// The categories a piece of work runs in, one bit per category code.
+using ModeSet = uint32_t;
+
+constexpr ModeSet InModes(std::initializer_list<int> modes) {
+    ModeSet set = 0;
+    for (int mode : modes) {
+        set |= 1u << mode;
+    }
+    return set;
+}
+
+constexpr ModeSet kAnyMode = ~0u;
+
+// Saving runs every piece of work, whatever the category.
+bool Runs(ModeSet modes) {
+    const Globals& globals = *gGlobals;
+    if (globals.saving != 0 || modes == kAnyMode) {
+        return true;
+    }
+    return globals.mode >= 0 && globals.mode < 32 && (modes & (1u << globals.mode)) != 0;
+}
+
+SurveyRecord& Record() { return gSurvey->record; }
+
+ZMErr CountGraph(ZMArtHandle art, PaintKind&, int32_t) {
+    ZMBool isGraph = 0;
+    if (ZMErr error = sArtSuite->IsArtGraph(art, &isGraph); error != ZM_ERR_NONE) {
+        return error;
+    }
+    if (isGraph != 0) {
+        ++Record().graphCount;
+    }
+    return ZM_ERR_NONE;
+}
+
+ZMErr SurveyPath(ZMArtHandle art, PaintKind&, int32_t) { return VisitPath(art); }
+
+ZMErr CountCompoundPath(ZMArtHandle, PaintKind&, int32_t) {
+    ++Record().compoundPathCount;
+    return ZM_ERR_NONE;
+}
+
+ZMErr SurveyPluginGroup(ZMArtHandle art, PaintKind&, int32_t) { return ClassifyPluginGroup(art); }
+
+ZMErr CountMesh(ZMArtHandle, PaintKind&, int32_t) {
+    ++Record().meshCount;
+    return ZM_ERR_NONE;
+}
+
+ZMErr CountSymbolInstance(ZMArtHandle, PaintKind&, int32_t) {
+    ++Record().symbolInstanceCount;
+    return ZM_ERR_NONE;
+}
+
+ZMErr CountForeignObject(ZMArtHandle, PaintKind&, int32_t) {
+    ++Record().foreignObjectCount;
+    // The fonts and contents of the object are enumerated with the text engine's collectors.
+    return ZM_ERR_NONE;
+}
+
+ZMErr CountChart(ZMArtHandle, PaintKind&, int32_t) {
+    ++Record().chartCount;
+    return ZM_ERR_NONE;
+}
+
+// What each art type adds to the survey beyond its paint, and the categories that need it.
+// Compound paths, symbol instances, charts and graphs count in every category: in the font
+// categories they are never matched anyway.
+struct TypeWork {
+    ZMArtType type;
+    ModeSet modes;
+    ZMErr (*work)(ZMArtHandle art, PaintKind& paintKinds, int32_t inMask);
+};
+
+constexpr TypeWork kTypeWork[] = {
+    {ZM_ART_UNKNOWN, kAnyMode, CountGraph},
+    {ZM_ART_PATH, InModes({3}), SurveyPath},
+    {ZM_ART_COMPOUND_PATH, kAnyMode, CountCompoundPath},
+    // Placed art (categories 3, 10 and 11) is described by the image collectors.
+    // Raster art (categories 3, 6, 10 and 11) is described by the raster collector.
+    {ZM_ART_PLUGIN_GROUP, InModes({3}), SurveyPluginGroup},
+    {ZM_ART_MESH, InModes({3, 6}), CountMesh},
+    // Text frames (categories 3, 6, 7, 9 and 12) are surveyed with the text engine.
+    {ZM_ART_SYMBOL_INSTANCE, kAnyMode, CountSymbolInstance},
+    {ZM_ART_FOREIGN_OBJECT, InModes({3, 6, 9, 12}), CountForeignObject},
+    {ZM_ART_CHART, kAnyMode, CountChart},
+};
+
+// The mask art and everything it holds, depth first; a plug-in group is entered through its
+// result group, which is not visited itself.
+ZMErr WalkMaskArt(ZMArtHandle art, PaintKind& paintKinds) {
+    if (ZMErr error = VisitArt(art, paintKinds, 1); error != ZM_ERR_NONE) {
+        return error;
+    }
+    ZMArtType type = ZM_ART_UNKNOWN;
+    if (ZMErr error = sArtSuite->GetArtType(art, &type); error != ZM_ERR_NONE) {
+        return error;
+    }
+    ZMArtHandle holder = art;
+    if (type == ZM_ART_PLUGIN_GROUP) {
+        if (ZMErr error = sPluginGroupSuite->GetPluginArtResultGroup(art, &holder);
+            error != ZM_ERR_NONE) {
+            return error;
+        }
+    }
+    ZMArtHandle child = nullptr;
+    if (ZMErr error = sArtSuite->GetArtFirstChild(holder, &child); error != ZM_ERR_NONE) {
+        return error;
+    }
+    while (child != nullptr) {
+        if (ZMErr error = WalkMaskArt(child, paintKinds); error != ZM_ERR_NONE) {
+            return error;
+        }
+        if (ZMErr error = sArtSuite->GetArtSibling(child, &child); error != ZM_ERR_NONE) {
+            return error;
+        }
+    }
+    return ZM_ERR_NONE;
+}
+
+// The matching request: all art, or only what is selected; in the font categories only text
+// frames and foreign objects, the only art that names fonts. Members of compound paths are
+// left out of the first criterion: the compound path speaks for them.
+int32_t BuildCriteria(ZMMatchCriterion (&criteria)[2]) {
+    const Globals& globals = *gGlobals;
+    const uint32_t selected = globals.selectionOnly != 0 ? ZM_ART_SELECTED : 0u;
+    const bool fontsOnly = globals.mode == 9 || globals.mode == 12;
+    criteria[0] = {fontsOnly ? int16_t{ZM_ART_TEXT_FRAME} : int16_t{ZM_ART_ANY}, 0,
+                   selected | ZM_ART_COMPOUND_MEMBER, selected};
+    criteria[1] = {ZM_ART_FOREIGN_OBJECT, 0, selected, selected};
+    return fontsOnly ? 2 : 1;
+}
+
+// Shows the survey's progress while it lives; a display that cannot be shown is no reason
+// to stop surveying. Only a display this object began is ended.
+class SurveyProgress {
+public:
+    SurveyProgress() {
+        shown_ = zm::CodeOf([] {
+                     HostString text = LoadTolvaneString(ResFilter, 3);
+                     return sUserSuite->BeginProgress(text.Get());
+                 }) == ZM_ERR_NONE;
+    }
+    ~SurveyProgress() {
+        if (shown_) {
+            sUserSuite->EndProgress();
+        }
+    }
+    SurveyProgress(const SurveyProgress&) = delete;
+    SurveyProgress& operator=(const SurveyProgress&) = delete;
+
+    void Update(int32_t current, int32_t maximum) {
+        if (shown_) {
+            sUserSuite->UpdateProgress(current, maximum);
+        }
+    }
+
+private:
+    bool shown_ = false;
+};
+
+void VisitMatches(const ZMArtHandle* matches, int32_t count) {
+    SurveyProgress progress;
+    for (int32_t index = 0; index < count; ++index) {
+        if (index % 4 == 0) {
+            progress.Update(index, count);
+        }
+        PaintKind paintKinds = 0;
+        if (VisitArt(matches[index], paintKinds, 0) != ZM_ERR_NONE) {
+            break;  // the counts so far stay
+        }
+    }
+}
+
+}  // namespace
+
+ZMErr RunSurvey() {
+    ZMMatchCriterion criteria[2];
+    const int32_t criterionCount = BuildCriteria(criteria);
+    ZMLayerList layers = nullptr;
+    ZMMdMemoryHandle matches = nullptr;
+    int32_t matchCount = 0;
+    if (sLayerListSuite->GetCurrentLayerList(&layers) != ZM_ERR_NONE ||
+        sMatchingArtSuite->GetMatchingArtOfLayerList(layers, criteria, criterionCount, &matches,
+                                                     &matchCount) != ZM_ERR_NONE) {
+        return ZM_ERR_NONE;  // nothing to survey: the record stays as it was
+    }
+    // No match comes without a handle; a handle that cannot be read is surveyed as empty.
+    void* block = nullptr;
+    if (matches == nullptr || sMdMemorySuite->MdMemoryHandleDeref(matches, &block) != ZM_ERR_NONE) {
+        matchCount = 0;
+    }
+    VisitMatches(static_cast<const ZMArtHandle*>(block), matchCount);
+    if (matches != nullptr) {
+        sMdMemorySuite->DisposeHandle(matches);
+    }
+    return ZM_ERR_NONE;
+}
+
+ZMErr VisitArt(ZMArtHandle art, PaintKind& paintKinds, int32_t inMask) {
+    ZMArtType type = ZM_ART_UNKNOWN;
+    if (ZMErr error = sArtSuite->GetArtType(art, &type); error != ZM_ERR_NONE) {
+        return error;
+    }
+    if (Runs(InModes({3}))) {
+        // What goes wrong inside a mask stays there: the masked art is still surveyed.
+        VisitMaskedArt(art, paintKinds);
+    }
+    for (const TypeWork& entry : kTypeWork) {
+        if (entry.type == type) {
+            return Runs(entry.modes) ? entry.work(art, paintKinds, inMask) : ZM_ERR_NONE;
+        }
+    }
+    return ZM_ERR_NONE;
+}
+
+ZMErr VisitPath(ZMArtHandle art) {
+    SurveyRecord& record = Record();
+    ++record.pathCount;
+    if (record.pointCount >= 0) {
+        int16_t segments = 0;
+        if (ZMErr error = sPathSuite->GetPathSegmentCount(art, &segments); error != ZM_ERR_NONE) {
+            return error;
+        }
+        AddPoints(record, segments);
+    }
+    ZMBool closed = 0;
+    if (ZMErr error = sPathSuite->GetPathClosed(art, &closed); error != ZM_ERR_NONE) {
+        return error;
+    }
+    if (closed == 0) {
+        ++record.openPathCount;
+    }
+    if (record.totalPathLength >= 0.0) {
+        double length = 0.0;
+        if (ZMErr error = sPathSuite->GetPathLength(art, &length, kPathLengthFlatness);
+            error != ZM_ERR_NONE) {
+            return error;
+        }
+        AddPathLength(record, length);
+    }
+    // A style that cannot be read is simply not a clipping path.
+    ZMPathStyle style{};
+    if (sPathStyleSuite->GetPathStyle(art, &style) == ZM_ERR_NONE && style.clip != 0) {
+        ++record.clipMaskCount;
+    }
+    return ZM_ERR_NONE;
+}
+
+ZMErr VisitMaskedArt(ZMArtHandle art, PaintKind& paintKinds) {
+    ZMMaskHandle mask = nullptr;
+    if (ZMErr error = sMaskSuite->GetMask(art, &mask); error != ZM_ERR_NONE) {
+        return error;
+    }
+    if (mask == nullptr) {
+        return ZM_ERR_NONE;
+    }
+    ++Record().opacityMaskCount;
+    ZMArtHandle maskArt = nullptr;
+    ZMErr error = sMaskSuite->GetMaskArt(mask, &maskArt);
+    if (error == ZM_ERR_NONE && maskArt != nullptr) {
+        error = WalkMaskArt(maskArt, paintKinds);
+    }
+    sMaskSuite->ReleaseMask(mask);
+    return error;
+}
+
+}  // namespace tolvane
