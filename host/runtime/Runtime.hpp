@@ -6,6 +6,7 @@
 #include "runtime/AlertLog.hpp"
 #include "runtime/BlockAllocator.hpp"
 #include "runtime/ContextStack.hpp"
+#include "runtime/DataFilters.hpp"
 #include "runtime/DialogAnswers.hpp"
 #include "runtime/DocumentList.hpp"
 #include "runtime/FaultPlan.hpp"
@@ -62,6 +63,7 @@ public:
     HostObjects objects;  // what plug-ins hold by handle and give back
     ProgressDisplay progress;
     DialogAnswers dialogs;
+    DataFilters dataFilters{blocks};  // after `blocks`, so it goes first: its handles are blocks
     // Last, so that plug-ins still loaded are stopped while everything else still exists.
     PluginManager plugins;
 };
