@@ -5,6 +5,7 @@
 #include <report/ReportAssembly.hpp>
 #include <shell/Globals.hpp>
 #include <survey/SurveyRecord.hpp>
+#include <survey/SurveyStringList.hpp>
 
 #include <gtest/gtest.h>
 
@@ -169,6 +170,36 @@ TEST_F(ReportAssemblyTest, TheReportIsAppendedToWhatTheTextsHold) {
     report.saveText = tolvane::MakeUnicodeFromBytes("kept", ZM_ENCODING_PLATFORM);
     ASSERT_EQ(tolvane::AssembleReport(report), ZM_ERR_NONE);
     EXPECT_EQ(Text(report.saveText.Get()).rfind("keptDocument Info - ", 0), 0u);
+}
+
+// 1,100 font details of 1,000 characters each cannot all fit under the 1,048,576-character
+// ceiling: the lines that would reach it are left out without a word, every line that is
+// there is whole, and the short closing line still fits after them.
+TEST_F(ReportAssemblyTest, AReportOverTheCeilingKeepsTheWholeLinesThatFit) {
+    OpenEmptyDocument();
+    const std::string detail(1000, 'x');
+    for (int i = 0; i < 1100; ++i) {
+        tolvane::HostString text = tolvane::MakeUnicodeFromBytes(detail.c_str(), ZM_ENCODING_UTF8);
+        ASSERT_EQ(tolvane::LinkStrAppend(tolvane::gSurvey->lists.fontDetailList, text.Get(), true),
+                  ZM_ERR_NONE);
+    }
+    ASSERT_EQ(tolvane::AssembleReport(report), ZM_ERR_NONE);
+    const std::string saved = Text(report.saveText.Get());
+    EXPECT_LT(saved.size(), 0x100000u);
+
+    const std::string title = "\r\nFont Details:\r\n";
+    const std::size_t start = saved.find(title);
+    ASSERT_NE(start, std::string::npos);
+    // Each detail but the last is followed by its own "\r\n" and the file's.
+    std::size_t at = start + title.size();
+    int whole = 0;
+    while (saved.compare(at, detail.size() + 4, detail + "\r\n\r\n") == 0) {
+        at += detail.size() + 4;
+        ++whole;
+    }
+    EXPECT_GT(whole, 900);
+    EXPECT_LT(whole, 1100);
+    EXPECT_EQ(saved.substr(at), "\r\n\r\n\r\n");
 }
 
 }  // namespace
