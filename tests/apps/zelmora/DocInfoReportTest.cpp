@@ -1,11 +1,11 @@
 #include "support/CommandRun.hpp"
+#include "support/FileBytes.hpp"
 #include "support/ScratchFolder.hpp"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <regex>
 #include <string>
 #include <vector>
@@ -17,11 +17,6 @@ namespace fs = std::filesystem;
 
 constexpr int kExitDone = 0;
 constexpr int kExitNotWritten = 1;
-
-std::string ReadBytes(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 // The report without its heading line, whose date is the clock's: the heading is "Document
 // Info - ", asctime's 24 characters and "\n", then "\r\n" and the file's own line end.
@@ -68,7 +63,7 @@ TEST_F(DocInfoReportTest, TheWholeReportOnStandardOutputIsWhatSaveWrites) {
     CommandResult saving = DocInfo({"--output", saved.string()});
     ASSERT_EQ(saving.exitStatus, kExitDone) << saving.errors;
     EXPECT_EQ(saving.output, "");  // the report went into the file only
-    const std::string file = ReadBytes(saved);
+    const std::string file = ReadFileBytes(saved);
 
     const std::string body = AfterHeading(printed.output);
     EXPECT_EQ(body, AfterHeading(file));
@@ -96,7 +91,7 @@ TEST_F(DocInfoReportTest, ACategoryAndAnOutputFileTogetherDoBoth) {
     CommandResult run = DocInfo({"--category", "objects", "--output", saved.string()});
     ASSERT_EQ(run.exitStatus, kExitDone) << run.errors;
     EXPECT_EQ(run.output.rfind("Objects:\r\n\r\nPaths: 2 (", 0), 0u) << run.output;
-    EXPECT_NE(AfterHeading(ReadBytes(saved)).find("\r\nObjects:\r\nPaths: 2 ("),
+    EXPECT_NE(AfterHeading(ReadFileBytes(saved)).find("\r\nObjects:\r\nPaths: 2 ("),
               std::string::npos);
 }
 
@@ -117,7 +112,7 @@ TEST_F(DocInfoReportTest, AnOlderFileIsReplacedWhole) {
     std::ofstream(saved) << std::string(200000, '#');
     CommandResult run = DocInfo({"--output", saved.string()});
     ASSERT_EQ(run.exitStatus, kExitDone) << run.errors;
-    const std::string file = ReadBytes(saved);
+    const std::string file = ReadFileBytes(saved);
     EXPECT_EQ(file.find('#'), std::string::npos);
     EXPECT_EQ(file.rfind("Document Info - ", 0), 0u);
 }
@@ -127,7 +122,7 @@ TEST_F(DocInfoReportTest, AnOlderFileIsReplacedWhole) {
 TEST_F(DocInfoReportTest, AnOutputFolderGetsTheProposedName) {
     CommandResult run = DocInfo({"--output", scratch_.Path().string()});
     ASSERT_EQ(run.exitStatus, kExitDone) << run.errors;
-    EXPECT_EQ(ReadBytes(scratch_.Path() / "two Info.txt").rfind("Document Info - ", 0), 0u);
+    EXPECT_EQ(ReadFileBytes(scratch_.Path() / "two Info.txt").rfind("Document Info - ", 0), 0u);
 }
 
 }  // namespace

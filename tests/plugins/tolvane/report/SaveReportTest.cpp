@@ -1,4 +1,5 @@
 #include "plugins/tolvane/PanelSession.hpp"
+#include "support/FileBytes.hpp"
 #include "support/ScratchFolder.hpp"
 
 #include <runtime/DialogAnswers.hpp>
@@ -7,7 +8,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 namespace zm::test {
@@ -19,11 +19,6 @@ constexpr int kSelectionOnly = 1;
 constexpr int kDocument = 2;
 constexpr int kObjects = 3;
 constexpr int kSave = 13;
-
-std::string ReadBytes(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 class SaveReportTest : public PanelSession {
 protected:
@@ -79,7 +74,7 @@ TEST_F(SaveReportTest, TheFileIsSingleByteTextWithCarriageReturnLineEnds) {
     const fs::path target = scratch.Path() / "report.txt";
     Runtime().dialogs.saveAnswer = target;
     Save();
-    const std::string bytes = ReadBytes(target);
+    const std::string bytes = ReadFileBytes(target);
     ASSERT_GT(bytes.size(), 100u);
     EXPECT_EQ(bytes.rfind("Document Info - ", 0), 0u);
     EXPECT_EQ(bytes.find('\0'), std::string::npos);
@@ -104,7 +99,7 @@ TEST_F(SaveReportTest, SavingInTheDocumentCategoryStillSurveysTheArt) {
     const fs::path target = scratch.Path() / "report.txt";
     Runtime().dialogs.saveAnswer = target;
     Save();
-    EXPECT_NE(ReadBytes(target).find("\r\nObjects:\r\nPaths: 1 (0 open, 1 closed, 4 points, "),
+    EXPECT_NE(ReadFileBytes(target).find("\r\nObjects:\r\nPaths: 1 (0 open, 1 closed, 4 points, "),
               std::string::npos);
     // The panel stays on its category and shows what it showed.
     EXPECT_TRUE(Flyout().IsItemChecked(kDocument));
@@ -119,7 +114,7 @@ TEST_F(SaveReportTest, CharactersOutsideTheSingleByteEncodingBecomeQuestionMarks
     const fs::path target = scratch.Path() / "report.txt";
     Runtime().dialogs.saveAnswer = target;
     Save();
-    EXPECT_NE(ReadBytes(target).find("\r\nName: /posters/?-caf\xE9.svg\r\n"), std::string::npos);
+    EXPECT_NE(ReadFileBytes(target).find("\r\nName: /posters/?-caf\xE9.svg\r\n"), std::string::npos);
     EXPECT_EQ(LastDialog().defaultName, "\xCE\xA9-caf\xC3\xA9 Info.txt");
 }
 
@@ -143,7 +138,7 @@ TEST_F(SaveReportTest, SavingOverAnOlderFileReplacesIt) {
     std::ofstream(target) << std::string(100000, 'x');
     Runtime().dialogs.saveAnswer = target;
     Save();
-    const std::string bytes = ReadBytes(target);
+    const std::string bytes = ReadFileBytes(target);
     EXPECT_EQ(bytes.rfind("Document Info - ", 0), 0u);
     EXPECT_EQ(bytes.find('x' + std::string(10, 'x')), std::string::npos);
 }
