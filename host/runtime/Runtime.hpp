@@ -19,6 +19,7 @@
 #include "runtime/NotifierCenter.hpp"
 #include "runtime/Preferences.hpp"
 #include "runtime/ProgressDisplay.hpp"
+#include "runtime/ToolkitRulerUnit.hpp"
 
 #include <string>
 #include <vector>
@@ -55,6 +56,7 @@ public:
     Localizer localizer;
     std::vector<DispatchRecord> dispatches;
     DocumentList documents;
+    ToolkitRulerUnit toolkitRulerUnit{documents};
     MemoryHandles memory{faults};
     MaskReferences masks;
     NamedPlugins namedPlugins;

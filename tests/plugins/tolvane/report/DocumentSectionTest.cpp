@@ -1,5 +1,5 @@
 #include "plugins/tolvane/PluginUnitFixture.hpp"
-#include "plugins/tolvane/ReportLines.hpp"
+#include "plugins/tolvane/report/ExpectedLines.hpp"
 
 #include <importers/svg/SvgImporter.hpp>
 #include <report/DocumentSection.hpp>
@@ -14,7 +14,6 @@ namespace {
 
 using zm::host::document::Document;
 using zm::host::document::RulerUnits;
-
 using zm::test::Displayed;
 using zm::test::Line;
 using zm::test::Saved;

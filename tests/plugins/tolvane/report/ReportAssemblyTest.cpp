@@ -1,5 +1,5 @@
 #include "plugins/tolvane/PluginUnitFixture.hpp"
-#include "plugins/tolvane/ReportLines.hpp"
+#include "plugins/tolvane/report/ExpectedLines.hpp"
 
 #include <document/Document.hpp>
 #include <report/ReportAssembly.hpp>

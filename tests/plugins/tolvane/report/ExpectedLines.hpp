@@ -5,11 +5,10 @@
 
 namespace zm::test {
 
-// One line of a report as a section writer appends it: what the screen shows after it and,
-// in the file, always one line end.
+// The lines of a section: what the screen shows after each line and what the file does.
 struct Line {
     std::string text;
-    int breaks;  // line ends after it on screen
+    int breaks;  // on screen; the file always has one
 };
 
 inline std::string Displayed(const std::vector<Line>& lines) {
