@@ -4,4 +4,4 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
 build/out/bin/zelmora plugins
-build/out/bin/zelmora docinfo --category document samples/poster.svg
+build/out/bin/zelmora docinfo samples/poster.svg

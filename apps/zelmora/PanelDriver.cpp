@@ -13,6 +13,7 @@ namespace zelmora {
 namespace {
 
 constexpr int kSelectionOnlyItem = 1;
+constexpr int kSaveItem = 13;
 
 ostzm::ZMUIBasePanel& RequirePanel(zm::host::LoadedPlugin& plugin) {
     ostzm::ZMUIBasePanel* panel = ostzm::PanelRegistry::FindPanel(plugin.Ref());
@@ -53,6 +54,8 @@ void PanelDriver::SetSelectionOnly(bool on) {
 }
 
 void PanelDriver::ChooseCategory(int32_t mode) { RequirePanel(plugin_).ChooseFlyoutItem(mode); }
+
+void PanelDriver::Save() { RequirePanel(plugin_).ChooseFlyoutItem(kSaveItem); }
 
 std::string PanelDriver::ShownText() const {
     return ostzm::PanelRegistry::ShownText(RequirePanel(plugin_));

@@ -20,6 +20,8 @@ public:
     void SetSelectionOnly(bool on);
     // Chooses a category's flyout item (2-12).
     void ChooseCategory(int32_t mode);
+    // Chooses "&Save..."; the host's save dialog answers what the session was given.
+    void Save();
     // The text the panel shows, as it shows it.
     std::string ShownText() const;
 

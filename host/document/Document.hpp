@@ -2,6 +2,7 @@
 
 #include "document/Art.hpp"
 #include "document/ArtStyle.hpp"
+#include "document/ColorSpaceStore.hpp"
 #include "document/Geometry.hpp"
 #include "document/Resources.hpp"
 
@@ -72,6 +73,8 @@ struct Document {
 
     // The art styles the host has handed out for this document's art; they go with it.
     ArtStyleCache artStyles;
+    // The colour spaces handed out for this document; they go with it.
+    ColorSpaceStore colorSpaces;
 };
 
 // Dictionary keys the host writes for the document settings of the same meaning.

@@ -3,6 +3,7 @@
 #include "runtime/FaultPlan.hpp"
 
 #include <cstdlib>
+#include <utility>
 
 namespace zm::host {
 
@@ -12,22 +13,35 @@ BlockAllocator::~BlockAllocator() {
     }
 }
 
-void* BlockAllocator::Allocate(std::size_t size) {
+void* BlockAllocator::Allocate(std::size_t size, ReleaseHook onFree) {
     if (faults_.ConsumeAllocation()) {
         return nullptr;
     }
     // calloc(0) may return null; a zero-size request still gets a distinct block.
     void* block = std::calloc(size == 0 ? 1 : size, 1);
-    if (block != nullptr) {
-        live_.insert(block);
-        ++total_;
+    if (block == nullptr) {
+        return nullptr;
     }
+    try {
+        live_.insert(block);
+        if (onFree) {
+            hooks_.emplace(block, std::move(onFree));
+        }
+    } catch (...) {
+        live_.erase(block);
+        std::free(block);
+        throw;
+    }
+    ++total_;
     return block;
 }
 
 bool BlockAllocator::Free(void* block) {
     if (live_.erase(block) == 0) {
         return false;
+    }
+    if (auto hook = hooks_.extract(block); !hook.empty()) {
+        hook.mapped()(block);
     }
     std::free(block);
     return true;

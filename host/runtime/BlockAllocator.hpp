@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace zm::host {
@@ -16,8 +18,13 @@ public:
     BlockAllocator(const BlockAllocator&) = delete;
     BlockAllocator& operator=(const BlockAllocator&) = delete;
 
+    // Runs once, with the block, when the block is given back through Free, so that a host
+    // object whose handle is a block goes when a plug-in frees the block. Must not throw. Not
+    // run when the allocator itself goes.
+    using ReleaseHook = std::function<void(const void* block)>;
+
     // Null when there is no memory, including a failure the fault plan asks for.
-    void* Allocate(std::size_t size);
+    void* Allocate(std::size_t size, ReleaseHook onFree = {});
     // False for a pointer this allocator did not hand out (nothing is freed then).
     bool Free(void* block);
     std::size_t LiveBlocks() const { return live_.size(); }
@@ -26,6 +33,7 @@ public:
 private:
     FaultPlan& faults_;
     std::unordered_set<void*> live_;
+    std::unordered_map<void*, ReleaseHook> hooks_;
     std::size_t total_ = 0;
 };
 

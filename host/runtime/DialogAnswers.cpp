@@ -48,7 +48,7 @@ const fs::path& RequireAnswer(const std::optional<fs::path>& answer) {
 
 fs::path DialogAnswers::Save(std::string prompt, std::string_view extensions,
                              std::string defaultName) {
-    shown.push_back({DialogKind::SaveFile, std::move(prompt), defaultName});
+    shown.push_back({DialogKind::SaveFile, std::move(prompt), defaultName, {}});
     fs::path chosen = RequireAnswer(saveAnswer);
     std::error_code error;
     if (fs::is_directory(chosen, error)) {
@@ -61,11 +61,12 @@ fs::path DialogAnswers::Save(std::string prompt, std::string_view extensions,
     if (!HasOneOf(chosen, types)) {
         chosen += "." + types.front();
     }
+    shown.back().chosen = chosen;
     return chosen;
 }
 
 fs::path DialogAnswers::Open(std::string prompt, std::string_view extensions) {
-    shown.push_back({DialogKind::OpenFile, std::move(prompt), {}});
+    shown.push_back({DialogKind::OpenFile, std::move(prompt), {}, {}});
     const fs::path& chosen = RequireAnswer(openAnswer);
     std::error_code error;
     if (!fs::is_regular_file(chosen, error) || !HasOneOf(chosen, SplitExtensions(extensions))) {
@@ -75,7 +76,7 @@ fs::path DialogAnswers::Open(std::string prompt, std::string_view extensions) {
 }
 
 fs::path DialogAnswers::ChooseFolder(std::string prompt) {
-    shown.push_back({DialogKind::ChooseFolder, std::move(prompt), {}});
+    shown.push_back({DialogKind::ChooseFolder, std::move(prompt), {}, {}});
     const fs::path& chosen = RequireAnswer(folderAnswer);
     std::error_code error;
     if (!fs::is_directory(chosen, error)) {

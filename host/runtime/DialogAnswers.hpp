@@ -15,6 +15,7 @@ struct DialogRecord {
     DialogKind kind;
     std::string prompt;       // UTF-8
     std::string defaultName;  // UTF-8; empty for the dialogs that propose no name
+    std::filesystem::path chosen;  // the answer given; empty when cancelled or refused
 };
 
 // A headless host cannot ask the user, so the answers are set beforehand (the command's

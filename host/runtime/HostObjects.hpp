@@ -81,6 +81,9 @@ public:
         return All<Item>().size();
     }
 
+    // Every object held, of any type.
+    std::size_t Size() const { return entries_.size(); }
+
     // References held on one object; 0 for a handle the store does not hold.
     int32_t References(const void* handle) const {
         auto found = entries_.find(handle);

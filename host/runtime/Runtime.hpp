@@ -6,6 +6,7 @@
 #include "runtime/AlertLog.hpp"
 #include "runtime/BlockAllocator.hpp"
 #include "runtime/ContextStack.hpp"
+#include "runtime/DataFilters.hpp"
 #include "runtime/DialogAnswers.hpp"
 #include "runtime/DocumentList.hpp"
 #include "runtime/FaultPlan.hpp"
@@ -18,6 +19,7 @@
 #include "runtime/NotifierCenter.hpp"
 #include "runtime/Preferences.hpp"
 #include "runtime/ProgressDisplay.hpp"
+#include "runtime/ToolkitRulerUnit.hpp"
 
 #include <string>
 #include <vector>
@@ -54,6 +56,7 @@ public:
     Localizer localizer;
     std::vector<DispatchRecord> dispatches;
     DocumentList documents;
+    ToolkitRulerUnit toolkitRulerUnit{documents};
     MemoryHandles memory{faults};
     MaskReferences masks;
     NamedPlugins namedPlugins;
@@ -62,6 +65,7 @@ public:
     HostObjects objects;  // what plug-ins hold by handle and give back
     ProgressDisplay progress;
     DialogAnswers dialogs;
+    DataFilters dataFilters{blocks};  // after `blocks`, so it goes first: its handles are blocks
     // Last, so that plug-ins still loaded are stopped while everything else still exists.
     PluginManager plugins;
 };

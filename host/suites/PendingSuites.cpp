@@ -26,10 +26,8 @@
 #include <zelmora/ZMBrushMgrSuite.h>
 #include <zelmora/ZMCharacterEncodingSuite.h>
 #include <zelmora/ZMColorConversionSuite.h>
-#include <zelmora/ZMColorSpaceSuite.h>
 #include <zelmora/ZMCountedObjectSuite.h>
 #include <zelmora/ZMCustomColorSuite.h>
-#include <zelmora/ZMDataFilterSuite.h>
 #include <zelmora/ZMDevUtilsSuite.h>
 #include <zelmora/ZMDictionarySuite.h>
 #include <zelmora/ZMDocumentSuite.h>
@@ -81,7 +79,6 @@ struct PendingSuiteTable {
 // a function table of their own register from their own files and are not listed here.
 constexpr PendingSuiteTable kPendingSuites[] = {
     ZM_SUITE_ROW(ZM_CHARACTER_ENCODING_SUITE),
-    ZM_SUITE_ROW(ZM_DATA_FILTER_SUITE),
     ZM_SUITE_ROW(ZM_DEV_UTILS_SUITE),
     ZM_SUITE_ROW(ZM_FONT_SUITE),
     ZM_SUITE_ROW(ZM_FONT_GLUE_SUITE),
@@ -90,7 +87,6 @@ constexpr PendingSuiteTable kPendingSuites[] = {
     ZM_SUITE_ROW(ZM_PLACED_SUITE),
     ZM_SUITE_ROW(ZM_RASTER_SUITE),
     ZM_SUITE_ROW(ZM_WORKSPACE_SUITE),
-    ZM_SUITE_ROW(ZM_COLOR_SPACE_SUITE),
     ZM_SUITE_ROW(ZM_HV_BLOCKS_SUITE),
     ZM_SUITE_ROW(ZM_TEXT_FRAME_SUITE),
     ZM_SUITE_ROW(ZM_FO_CONVERSION_SUITE),

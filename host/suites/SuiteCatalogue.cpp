@@ -44,6 +44,8 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterStringFormatUtilsSuite(registry);
     RegisterColorConversionSuite(registry);
     RegisterDocumentTextResourcesSuite(registry);
+    RegisterDataFilterSuite(registry);
+    RegisterColorSpaceSuite(registry);
     RegisterPendingSuites(registry);
 }
 

@@ -44,6 +44,8 @@ void RegisterBrushMgrSuite(SuiteRegistry& registry);
 void RegisterStringFormatUtilsSuite(SuiteRegistry& registry);
 void RegisterColorConversionSuite(SuiteRegistry& registry);
 void RegisterDocumentTextResourcesSuite(SuiteRegistry& registry);
+void RegisterDataFilterSuite(SuiteRegistry& registry);
+void RegisterColorSpaceSuite(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host

@@ -2,6 +2,7 @@
 
 #include "panel/PanelCategories.hpp"
 #include "report/DocumentSection.hpp"
+#include "report/ObjectsSection.hpp"
 #include "report/ReportLists.hpp"
 #include "report/StringGroups.hpp"
 #include "survey/SurveyRecord.hpp"
@@ -18,6 +19,8 @@ ZMErr WriteCategoryReport(ReportText& text, int16_t mode) {
     }
     const SurveyLists& lists = gSurvey->lists;
     switch (mode) {
+        case kModeObjects:
+            return WriteObjectsSection(text);
         case kModeGraphicStyles:
             return AppendCountList(text, lists.graphicStyleList, kTitleGraphicStyles);
         case kModeBrushes:
@@ -37,8 +40,6 @@ ZMErr WriteCategoryReport(ReportText& text, int16_t mode) {
         case kModeFontDetails:
             return AppendNameList(text, lists.fontDetailList, kTitleFontDetails);
         default:
-            // The Objects section is written from the survey's counters by the art walk's
-            // own writer.
             return ZM_ERR_NONE;
     }
 }

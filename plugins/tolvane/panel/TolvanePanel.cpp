@@ -5,9 +5,11 @@
 #include "panel/PanelCreationOptions.hpp"
 #include "report/Error.hpp"
 #include "report/HostString.hpp"
+#include "report/SaveReport.hpp"
 #include "shell/AppContext.hpp"
 #include "shell/Globals.hpp"
 #include "shell/SuiteSet.hpp"
+#include "survey/ArtWalk.hpp"
 #include "survey/SurveyRecord.hpp"
 
 #include <ostui/ListItem.hpp>
@@ -83,9 +85,11 @@ void TolvanePanel::TakeTextArea() {
     textArea_.width -= ostui::kVerticalScrollBarWidth + kTextAreaInset;
 }
 
+void TolvanePanel::EmptyList() { list_->RemoveAllItems(); }
+
 void TolvanePanel::FillReport() {
     report_.Reset();
-    list_->RemoveAllItems();
+    EmptyList();
     // A failing writer leaves what it wrote so far; the panel shows that much.
     WriteCategoryReport(report_, gGlobals->mode);
     list_->ScrollToMakeVisible({0.0f, 0.0f, list_->Frame().width, 2.0f});
@@ -106,6 +110,10 @@ void TolvanePanel::Refresh() {
     ScopedAppContext context;
     if (gSurvey != nullptr) {
         ResetSurvey(true);
+        // The Document category reads the document's settings only.
+        if (gGlobals->mode != kModeDocument) {
+            RunSurvey();
+        }
     }
     FillReport();
     ShowReport();
@@ -135,8 +143,27 @@ void TolvanePanel::OnFlyoutMenuCommand(int id) {
         gGlobals->mode = static_cast<int16_t>(id);
         flyoutMenu_->CheckItem(id, true);
         Refresh();
+    } else if (id == kItemSave) {
+        Save();
     }
-    // Item 0 and items beyond the menu do nothing; "&Save..." comes with the report file.
+    // Item 0 and items beyond the menu do nothing.
+}
+
+void TolvanePanel::Save() {
+    // Saving surveys everything, whatever the category shows, and the flag must not outlive
+    // the command even when a step throws.
+    gGlobals->saving = 1;
+    try {
+        if (gSurvey != nullptr) {
+            ResetSurvey(true);
+            RunSurvey();
+        }
+        SaveReport(*this);
+        Refresh();
+    } catch (...) {
+        // Nothing of a failed save is shown; the panel keeps what it had.
+    }
+    gGlobals->saving = 0;
 }
 
 void TolvanePanel::OnResize() {

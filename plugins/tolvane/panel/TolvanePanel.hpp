@@ -30,9 +30,15 @@ public:
     void Refresh();
 
     const ReportText& Report() const { return report_; }
+    // Save assembles the whole report into these texts.
+    ReportText& MutableReport() { return report_; }
+    // Removes the report's item from the list, as before a fill.
+    void EmptyList();
 
 private:
     void Initialize();
+    // The flyout's "&Save...": a full survey, the report file, then the panel as before.
+    void Save();
     void TakeTextArea();
     // Empties both texts and the list, then writes the current category's report.
     void FillReport();

@@ -3,6 +3,7 @@
 #include <zelmora/ZMTypes.h>
 
 #include <exception>
+#include <new>
 
 namespace zm {
 
@@ -27,6 +28,17 @@ ZMErr CodeOf(Body&& body) {
         return body();
     } catch (const Error& error) {
         return error.Code();
+    }
+}
+
+// CodeOf for code that also allocates on the C++ heap: an allocation that fails there is as
+// much a want of memory as one the host refuses.
+template <typename Body>
+ZMErr CodeOrNoMemory(Body&& body) {
+    try {
+        return CodeOf(body);
+    } catch (const std::bad_alloc&) {
+        return ZM_ERR_NO_MEMORY;
     }
 }
 

@@ -6,7 +6,6 @@
 #include "shell/SuiteSet.hpp"
 
 #include <map>
-#include <new>
 
 namespace tolvane {
 
@@ -90,16 +89,6 @@ void Insert(SurveyStringList& list, SurveyStringIndex& index, ZMUnicodeString te
     Link(list, index, node, before);
 }
 
-// A node the index cannot take is as much a want of memory as a node the host cannot give.
-template <typename Body>
-ZMErr Guard(Body&& body) {
-    try {
-        return zm::CodeOf(body);
-    } catch (const std::bad_alloc&) {
-        return ZM_ERR_NO_MEMORY;
-    }
-}
-
 }  // namespace
 
 bool LinkStrFind(const SurveyStringList& list, ZMUnicodeString text) {
@@ -115,7 +104,7 @@ bool LinkStrFind(const SurveyStringList& list, ZMUnicodeString text) {
 }
 
 ZMErr LinkStrAdd(SurveyStringList& list, ZMUnicodeString text, bool allowRepeat) {
-    return Guard([&]() -> ZMErr {
+    return zm::CodeOrNoMemory([&]() -> ZMErr {
         SurveyStringIndex& index = IndexOf(list);
         if (index.sorted) {
             // The first node not sorting before text is where the walk from the front stops.
@@ -146,7 +135,7 @@ ZMErr LinkStrAdd(SurveyStringList& list, ZMUnicodeString text, bool allowRepeat)
 }
 
 ZMErr LinkStrAppend(SurveyStringList& list, ZMUnicodeString text, bool allowRepeat) {
-    return Guard([&]() -> ZMErr {
+    return zm::CodeOrNoMemory([&]() -> ZMErr {
         SurveyStringIndex& index = IndexOf(list);
         if (!allowRepeat && index.nodes.find(text) != index.nodes.end()) {
             return 1;

@@ -19,19 +19,31 @@ UnitHandler::UnitHandler(Unit unit, std::string name, std::string abbreviation,
 
 UnitHandler::~UnitHandler() = default;
 
-std::string UnitHandler::Format(double points, int decimals) const {
+std::string UnitHandler::FormatValue(double value, int decimals, uint16_t options,
+                                     bool exactDecimals) const {
+    const std::string suffix = (options & kShowAbbreviation) != 0 ? ' ' + abbreviation_ : "";
     // to_chars does not follow the C locale, so the decimal point is always ".".
     char digits[400];
-    auto [end, error] = std::to_chars(digits, digits + sizeof digits, FromPoints(points),
+    auto [end, error] = std::to_chars(digits, digits + sizeof digits, value,
                                       std::chars_format::fixed, std::max(decimals, 0));
     if (error != std::errc()) {
-        return "? " + abbreviation_;
+        return '?' + suffix;
     }
     std::string text(digits, end);
+    if (!exactDecimals && text.find('.') != std::string::npos) {
+        text.erase(text.find_last_not_of('0') + 1);
+        if (text.back() == '.') {
+            text.pop_back();
+        }
+    }
     if (text.front() == '-' && text.find_first_of("123456789") == std::string::npos) {
         text.erase(0, 1);
     }
-    return text + ' ' + abbreviation_;
+    return text + suffix;
+}
+
+std::string UnitHandler::Format(double points, int decimals) const {
+    return FormatValue(FromPoints(points), decimals, kShowAbbreviation, true);
 }
 
 }  // namespace ostui::controls

@@ -3,6 +3,7 @@
 #include <boost/make_shared.hpp>
 
 #include <stdexcept>
+#include <utility>
 
 namespace ostui::controls {
 
@@ -26,7 +27,7 @@ UnitHandlerRegistry::UnitHandlerRegistry() {
 
 UnitHandlerRegistry::~UnitHandlerRegistry() = default;
 
-UnitHandlerRegistry& UnitHandlerRegistry::Shared() {
+UnitHandlerRegistry& UnitHandlerRegistry::Get() {
     static UnitHandlerRegistry registry;
     return registry;
 }
@@ -38,7 +39,7 @@ void UnitHandlerRegistry::Register(boost::shared_ptr<const UnitHandler> handler)
     }
 }
 
-boost::shared_ptr<const UnitHandler> UnitHandlerRegistry::Find(Unit unit) const {
+boost::shared_ptr<const UnitHandler> UnitHandlerRegistry::GetUnitHandler(Unit unit) const {
     auto found = handlers_.find(unit);
     return found == handlers_.end() ? nullptr : found->second;
 }
@@ -54,11 +55,19 @@ boost::shared_ptr<const UnitHandler> UnitHandlerRegistry::FindByAbbreviation(
 }
 
 std::string UnitHandlerRegistry::Format(Unit unit, double points, int decimals) const {
-    boost::shared_ptr<const UnitHandler> handler = Find(unit);
+    boost::shared_ptr<const UnitHandler> handler = GetUnitHandler(unit);
     if (!handler) {
         throw std::out_of_range("no unit handler for that unit");
     }
     return handler->Format(points, decimals);
+}
+
+void UnitHandlerRegistry::SetNativeUnitSource(NativeUnitSource source) {
+    nativeUnits_ = std::move(source);
+}
+
+Unit UnitHandlerRegistry::GetNativeUnit(CustomUnit unit) const {
+    return nativeUnits_ ? nativeUnits_(unit) : Unit::Points;
 }
 
 }  // namespace ostui::controls

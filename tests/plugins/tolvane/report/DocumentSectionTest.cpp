@@ -1,4 +1,5 @@
 #include "plugins/tolvane/PluginUnitFixture.hpp"
+#include "plugins/tolvane/report/ExpectedLines.hpp"
 
 #include <importers/svg/SvgImporter.hpp>
 #include <report/DocumentSection.hpp>
@@ -13,31 +14,9 @@ namespace {
 
 using zm::host::document::Document;
 using zm::host::document::RulerUnits;
-
-// The lines of a section: what the screen shows after each line and what the file does.
-struct Line {
-    std::string text;
-    int breaks;  // on screen; the file always has one
-};
-
-std::string Displayed(const std::vector<Line>& lines) {
-    std::string text;
-    for (const Line& line : lines) {
-        text += line.text;
-        for (int i = 0; i < line.breaks; ++i) {
-            text += "\r\n";
-        }
-    }
-    return text;
-}
-
-std::string Saved(const std::vector<Line>& lines) {
-    std::string text;
-    for (const Line& line : lines) {
-        text += line.text + "\r\n";
-    }
-    return text;
-}
+using zm::test::Displayed;
+using zm::test::Line;
+using zm::test::Saved;
 
 // The title (a blank line after it on screen), then one line each; the Name line, when there
 // is one, also has a blank line after it on screen.

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+
+namespace tolvane {
+
+// True while the report is being saved, or when the panel shows one of the categories
+// (values of Globals::mode): the collectors fill a list only where it is shown or written.
+bool ShownOrSaving(std::initializer_list<int16_t> categories);
+
+}  // namespace tolvane

@@ -1,0 +1,16 @@
+#include "inventory/ListEntry.hpp"
+
+#include "shell/ErrorAlert.hpp"
+
+namespace tolvane {
+
+ZMErr InsertOrAlert(SurveyStringList& list, ZMUnicodeString text, int32_t alertCode,
+                    const char* place) {
+    if (LinkStrAdd(list, text, false) == ZM_ERR_NONE) {
+        return ZM_ERR_NONE;
+    }
+    ShowErrorAlert(kAlertError, kAlertMessageList, kAlertOutOfMemory, alertCode, place);
+    return ZM_ERR_NO_MEMORY;
+}
+
+}  // namespace tolvane

@@ -1,0 +1,206 @@
+#include "plugins/tolvane/PluginUnitFixture.hpp"
+#include "plugins/tolvane/report/ExpectedLines.hpp"
+
+#include <document/Document.hpp>
+#include <report/ReportAssembly.hpp>
+#include <shell/Globals.hpp>
+#include <survey/SurveyRecord.hpp>
+#include <survey/SurveyStringList.hpp>
+
+#include <gtest/gtest.h>
+
+#include <regex>
+#include <string>
+#include <vector>
+
+namespace zm::test {
+namespace {
+
+const std::string kSeparator = "\r\n" + std::string(77, '-') + "\r\n";
+
+// An untitled RGB document in points with no art: the Document section of a new document.
+std::vector<Line> DocumentSection() {
+    return {{"Document:", 2},
+            {"Color Mode: RGB color", 1},
+            {"Color Profile: none", 1},
+            {"Ruler Units: Points", 1},
+            {"Artboard Dimensions: 612 pt x 792 pt", 1},
+            {"Show Images in Outline Mode: OFF", 1},
+            {"Highlight Substituted Fonts: OFF", 1},
+            {"Highlight Substituted Glyphs: OFF", 1},
+            {"Preserve Text Editability", 1},
+            {"Simulate Colored Paper: OFF", 1}};
+}
+
+// Every counter 0: every fixed line reads "NONE" (the paths line too), the optional group is
+// absent, and the blank lines close the four groups of fixed lines.
+std::vector<Line> EmptyObjectsSection() {
+    return {{"Objects:", 2},
+            {"Paths: NONE", 1},
+            {"Compound Paths: NONE", 1},
+            {"Gradient Meshes: NONE", 1},
+            {"Symbol Instances: NONE", 2},
+            {"All Type Objects: NONE", 1},
+            {"Point Type Objects: NONE", 1},
+            {"Area Type Objects: NONE", 1},
+            {"Type on Path Objects: NONE", 2},
+            {"Clipping Masks: NONE", 1},
+            {"Opacity Masks: NONE", 1},
+            {"Transparent Groups: NONE", 1},
+            {"Transparent Objects: NONE", 1},
+            {"RGB Objects: NONE", 1},
+            {"CMYK Objects: NONE", 1},
+            {"Grayscale Objects: NONE", 2},
+            {"Spot Color Objects: NONE", 1},
+            {"Pattern Objects: NONE", 1},
+            {"Gradient Objects: NONE", 1},
+            {"Brushed Objects: NONE", 1},
+            {"Styled Objects: NONE", 2},
+            {"Fonts: NONE", 1},
+            {"Linked Images: NONE", 1},
+            {"Embedded Images: NONE", 1},
+            {"Non-Native Art Objects: NONE", 1}};
+}
+
+// An empty list: its title, a blank line on screen, then "NONE".
+std::vector<Line> EmptyList(const std::string& title) { return {{title, 2}, {"NONE", 1}}; }
+
+// The nine list sections in the report's order, after Document and Objects.
+const std::vector<std::string> kListTitles = {
+    "Graphic Styles:",  "Brushes:",      "Spot Color Objects:",
+    "Pattern Objects:", "Gradient Objects:", "Fonts:",
+    "Linked Images:",   "Embedded Images:",  "Font Details:"};
+
+// The separator is appended as one line with no break on screen; every section follows one.
+struct Expected {
+    std::string displayed;
+    std::string saved;
+
+    void Separator() {
+        displayed += kSeparator;
+        saved += kSeparator + "\r\n";
+    }
+    void Section(const std::vector<Line>& lines) {
+        Separator();
+        displayed += Displayed(lines);
+        saved += Saved(lines);
+    }
+};
+
+class ReportAssemblyTest : public PluginUnitFixture {
+protected:
+    void SetUp() override {
+        PluginUnitFixture::SetUp();
+        ASSERT_EQ(tolvane::MakeSurvey(), ZM_ERR_NONE);
+    }
+    void TearDown() override {
+        report = tolvane::ReportText{};
+        tolvane::FreeSurvey();
+        PluginUnitFixture::TearDown();
+    }
+
+    void OpenEmptyDocument() {
+        auto document = std::make_unique<host::document::Document>();
+        document->rulerUnits = host::document::RulerUnits::Points;
+        Open(std::move(document));
+    }
+
+    // The heading's date is the clock's: its form is checked, then it is cut off so the rest
+    // can be compared byte for byte. asctime writes "Www Mmm dd hh:mm:ss yyyy\n" (24
+    // characters and its own line end); the heading adds "\r\n" and the file one more.
+    static std::string WithoutHeading(const std::string& text, const std::string& after) {
+        static const std::regex heading(
+            "^Document Info - [A-Z][a-z]{2} [A-Z][a-z]{2} [ 0-3][0-9] [0-2][0-9]:[0-5][0-9]:"
+            "[0-6][0-9] [0-9]{4}\n\r\n");
+        std::smatch match;
+        if (!std::regex_search(text, match, heading) ||
+            text.compare(match.length(), after.size(), after) != 0) {
+            ADD_FAILURE() << "no heading of the expected form in: " << text.substr(0, 60);
+            return {};
+        }
+        return text.substr(static_cast<std::size_t>(match.length()) + after.size());
+    }
+
+    tolvane::ReportText report;
+};
+
+TEST_F(ReportAssemblyTest, ADocumentWithNothingInItStillListsEveryTitleWithNone) {
+    OpenEmptyDocument();
+    ASSERT_EQ(tolvane::AssembleReport(report), ZM_ERR_NONE);
+
+    Expected expected;
+    expected.Section(DocumentSection());
+    expected.Section(EmptyObjectsSection());
+    for (const std::string& title : kListTitles) {
+        expected.Section(EmptyList(title));
+    }
+    // The closing pair of line ends, appended with no break on screen.
+    expected.displayed += "\r\n\r\n";
+    expected.saved += "\r\n\r\n\r\n";
+
+    // On screen the heading has no break of its own; in the file it gets one.
+    EXPECT_EQ(WithoutHeading(Text(report.displayText.Get()), ""), expected.displayed);
+    EXPECT_EQ(WithoutHeading(Text(report.saveText.Get()), "\r\n"), expected.saved);
+}
+
+TEST_F(ReportAssemblyTest, TheSelectionReportCarriesTheSameHeading) {
+    OpenEmptyDocument();
+    tolvane::Globals globals{};
+    tolvane::InitializeGlobals(globals);
+    globals.selectionOnly = 1;
+    tolvane::gGlobals = &globals;
+    ZMErr error = tolvane::AssembleReport(report);
+    tolvane::gGlobals = nullptr;
+    ASSERT_EQ(error, ZM_ERR_NONE);
+    // "Document Info", never "Selection Info".
+    EXPECT_NE(WithoutHeading(Text(report.saveText.Get()), "\r\n" + kSeparator), "");
+}
+
+TEST_F(ReportAssemblyTest, AFailingSectionStopsTheReportWithWhatCameBefore) {
+    // Without a document the Document section writes its title and fails; nothing follows.
+    ASSERT_EQ(tolvane::AssembleReport(report), ZM_ERR_NO_DOCUMENT);
+    Expected expected;
+    expected.Section({{"Document:", 2}});
+    EXPECT_EQ(WithoutHeading(Text(report.saveText.Get()), "\r\n"), expected.saved);
+    EXPECT_EQ(WithoutHeading(Text(report.displayText.Get()), ""), expected.displayed);
+}
+
+TEST_F(ReportAssemblyTest, TheReportIsAppendedToWhatTheTextsHold) {
+    OpenEmptyDocument();
+    report.saveText = tolvane::MakeUnicodeFromBytes("kept", ZM_ENCODING_PLATFORM);
+    ASSERT_EQ(tolvane::AssembleReport(report), ZM_ERR_NONE);
+    EXPECT_EQ(Text(report.saveText.Get()).rfind("keptDocument Info - ", 0), 0u);
+}
+
+// 1,100 font details of 1,000 characters each cannot all fit under the 1,048,576-character
+// ceiling: the lines that would reach it are left out without a word, every line that is
+// there is whole, and the short closing line still fits after them.
+TEST_F(ReportAssemblyTest, AReportOverTheCeilingKeepsTheWholeLinesThatFit) {
+    OpenEmptyDocument();
+    const std::string detail(1000, 'x');
+    for (int i = 0; i < 1100; ++i) {
+        tolvane::HostString text = tolvane::MakeUnicodeFromBytes(detail.c_str(), ZM_ENCODING_UTF8);
+        ASSERT_EQ(tolvane::LinkStrAppend(tolvane::gSurvey->lists.fontDetailList, text.Get(), true),
+                  ZM_ERR_NONE);
+    }
+    ASSERT_EQ(tolvane::AssembleReport(report), ZM_ERR_NONE);
+    const std::string saved = Text(report.saveText.Get());
+    EXPECT_LT(saved.size(), 0x100000u);
+
+    const std::string title = "\r\nFont Details:\r\n";
+    const std::size_t start = saved.find(title);
+    ASSERT_NE(start, std::string::npos);
+    // Each detail but the last is followed by its own "\r\n" and the file's.
+    std::size_t at = start + title.size();
+    int whole = 0;
+    while (saved.compare(at, detail.size() + 4, detail + "\r\n\r\n") == 0) {
+        at += detail.size() + 4;
+        ++whole;
+    }
+    EXPECT_GT(whole, 900);
+    EXPECT_LT(whole, 1100);
+    EXPECT_EQ(saved.substr(at), "\r\n\r\n\r\n");
+}
+
+}  // namespace
+}  // namespace zm::test
