@@ -1,14 +1,9 @@
 // A whole report is a million characters through AppendReportLine, and a large document can
 // offer a hundred thousand distinct names to one survey list; neither may grow quadratically.
-#include <loader/LoadedPlugin.hpp>
-#include <runtime/Runtime.hpp>
-#include <suites/BasicSuite.hpp>
+#include "PluginSuites.hpp"
 
 #include <report/HostString.hpp>
 #include <report/ReportBuffer.hpp>
-#include <shell/FrameworkCalls.hpp>
-#include <shell/PluginDescription.hpp>
-#include <shell/SuiteSet.hpp>
 #include <survey/SurveyStringList.hpp>
 
 #include <benchmark/benchmark.h>
@@ -18,38 +13,9 @@
 
 namespace {
 
-// Tolvane's code linked in, its suite pointers filled from a real host as the framework
-// fills them.
-class PluginSuites {
-public:
-    PluginSuites() {
-        zm::host::PluginBundle bundle;
-        bundle.properties.pluginName = "Tolvane";
-        runtime_.plugins.Adopt(std::move(bundle)).framework.description =
-            &tolvane::gPluginDescription;
-        tolvane::sBasicSuite = const_cast<ZMBasicSuite*>(&zm::host::HostBasicSuite());
-        for (const ZMSuiteDeclaration* row = tolvane::kRequiredSuites;
-             row->kind != ZM_SUITE_KIND_END; ++row) {
-            runtime_.suites.Acquire(row->name, static_cast<int32_t>(row->version), row->target);
-        }
-    }
-    ~PluginSuites() {
-        tolvane::ReleaseFrameworkSuite();
-        for (const ZMSuiteDeclaration* row = tolvane::kRequiredSuites;
-             row->kind != ZM_SUITE_KIND_END; ++row) {
-            runtime_.suites.Release(row->name, static_cast<int32_t>(row->version));
-            *row->target = nullptr;
-        }
-        tolvane::sBasicSuite = nullptr;
-    }
-
-private:
-    zm::host::Runtime runtime_;
-};
-
 // 1,000,000 characters in lines of 78 and a line end: 12,500 lines of 80.
 void BM_ReportOfAMillionCharacters(benchmark::State& state) {
-    PluginSuites suites;
+    zm::bench::PluginSuites suites;
     const std::string text(78, 'x');
     for (auto _ : state) {
         tolvane::ReportText report;
@@ -64,7 +30,7 @@ BENCHMARK(BM_ReportOfAMillionCharacters)->Unit(benchmark::kMillisecond);
 
 // 100,000 distinct names, offered in an order that is not sorted.
 void BM_SortedListOfAHundredThousandNames(benchmark::State& state) {
-    PluginSuites suites;
+    zm::bench::PluginSuites suites;
     std::vector<tolvane::HostString> names;
     for (int i = 0; i < 100000; ++i) {
         std::string name = "Font " + std::to_string((i * 7919) % 100000);
