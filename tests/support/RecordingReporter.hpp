@@ -1,8 +1,7 @@
 #pragma once
 
-#include <runtime/ProgressReporter.hpp>
-
 #include <cstdint>
+#include <runtime/ProgressReporter.hpp>
 #include <string>
 #include <vector>
 

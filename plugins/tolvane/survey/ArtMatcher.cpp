@@ -1,9 +1,9 @@
 #include "survey/ArtMatcher.hpp"
 
+#include <zelmora/ZMMdMemorySuite.h>
+
 #include "shell/FrameworkCalls.hpp"
 #include "shell/SuiteSet.hpp"
-
-#include <zelmora/ZMMdMemorySuite.h>
 
 namespace tolvane {
 
@@ -14,8 +14,8 @@ namespace {
 template <typename Call>
 ZMErr WithMemorySuite(Call&& call) {
     const void* table = nullptr;
-    if (ZMErr error = sBasicSuite->AcquireSuite(ZM_MD_MEMORY_SUITE_NAME,
-                                                ZM_MD_MEMORY_SUITE_VERSION, &table);
+    if (ZMErr error =
+            sBasicSuite->AcquireSuite(ZM_MD_MEMORY_SUITE_NAME, ZM_MD_MEMORY_SUITE_VERSION, &table);
         error != ZM_ERR_NONE) {
         return error;
     }
@@ -32,8 +32,7 @@ ArtMatcher::ArtMatcher(int32_t criterionCount) {
     }
     void* block = nullptr;
     allocationError_ =
-        AllocatePluginBlock(static_cast<size_t>(criterionCount) * sizeof(ZMMatchCriterion),
-                            &block);
+        AllocatePluginBlock(static_cast<size_t>(criterionCount) * sizeof(ZMMatchCriterion), &block);
     if (allocationError_ == ZM_ERR_NONE) {
         criteria_ = static_cast<ZMMatchCriterion*>(block);  // zero-filled by the host
         criterionCount_ = criterionCount;
@@ -54,8 +53,8 @@ ZMErr ArtMatcher::Match() {
     }
     ZMMdMemoryHandle matches = nullptr;
     int32_t count = 0;
-    if (ZMErr error = sMatchingArtSuite->GetMatchingArt(criteria_, criterionCount_, &matches,
-                                                        &count);
+    if (ZMErr error =
+            sMatchingArtSuite->GetMatchingArt(criteria_, criterionCount_, &matches, &count);
         error != ZM_ERR_NONE) {
         return error;
     }
@@ -79,7 +78,8 @@ ZMErr ArtMatcher::Match() {
 void ArtMatcher::GiveMatchesBack() {
     if (matches_ != nullptr) {
         ZMMdMemoryHandle matches = matches_;
-        WithMemorySuite([&](const ZMMdMemorySuite& memory) { return memory.DisposeHandle(matches); });
+        WithMemorySuite(
+            [&](const ZMMdMemorySuite& memory) { return memory.DisposeHandle(matches); });
     }
     matches_ = nullptr;
     matchedArt_ = nullptr;

@@ -1,5 +1,9 @@
 #include "survey/ArtWalk.hpp"
 
+#include "inventory/CategoryGate.hpp"
+#include "inventory/ColorInventory.hpp"
+#include "inventory/StyleInventory.hpp"
+#include "panel/PanelCategories.hpp"
 #include "report/Error.hpp"
 #include "report/LoadTolvaneString.hpp"
 #include "shell/Globals.hpp"
@@ -7,36 +11,12 @@
 #include "survey/PluginGroups.hpp"
 #include "survey/SurveyRecord.hpp"
 
-#include <initializer_list>
-
 namespace tolvane {
 
 namespace {
 
 // Flatness for path lengths, in points.
 constexpr double kPathLengthFlatness = 0.5;
-
-// The categories a piece of work runs in, one bit per category code.
-using ModeSet = uint32_t;
-
-constexpr ModeSet InModes(std::initializer_list<int> modes) {
-    ModeSet set = 0;
-    for (int mode : modes) {
-        set |= 1u << mode;
-    }
-    return set;
-}
-
-constexpr ModeSet kAnyMode = ~0u;
-
-// Saving runs every piece of work, whatever the category.
-bool Runs(ModeSet modes) {
-    const Globals& globals = *gGlobals;
-    if (globals.saving != 0 || modes == kAnyMode) {
-        return true;
-    }
-    return globals.mode >= 0 && globals.mode < 32 && (modes & (1u << globals.mode)) != 0;
-}
 
 SurveyRecord& Record() { return gSurvey->record; }
 
@@ -60,8 +40,13 @@ ZMErr CountCompoundPath(ZMArtHandle, PaintKind&, int32_t) {
 
 ZMErr SurveyPluginGroup(ZMArtHandle art, PaintKind&, int32_t) { return ClassifyPluginGroup(art); }
 
-ZMErr CountMesh(ZMArtHandle, PaintKind&, int32_t) {
+// Each colour of the mesh joins one set of marks kept for the whole mesh, and every mark set
+// so far is counted again after each colour: a mesh of three colours, the first RGB, counts
+// three RGB objects. What the colours cannot tell is no reason to stop the survey.
+ZMErr CountMesh(ZMArtHandle art, PaintKind&, int32_t inMask) {
     ++Record().meshCount;
+    ColorTally tally{inMask, 0};
+    sMeshSuite->ForEachMeshColor(art, AddColorAndCount, &tally);
     return ZM_ERR_NONE;
 }
 
@@ -81,27 +66,40 @@ ZMErr CountChart(ZMArtHandle, PaintKind&, int32_t) {
     return ZM_ERR_NONE;
 }
 
+// The categories that need each piece of work (a save needs all of them).
+bool ObjectsShown() { return ShownOrSaving({kModeObjects}); }
+
+bool MeshColorsShown() { return ShownOrSaving({kModeObjects, kModeSpotColors}); }
+
+bool ForeignObjectsShown() {
+    return ShownOrSaving({kModeObjects, kModeSpotColors, kModeFonts, kModeFontDetails});
+}
+
+bool PaintShown() {
+    return ShownOrSaving({kModeObjects, kModeGraphicStyles, kModeBrushes, kModeSpotColors,
+                          kModePatterns, kModeGradients});
+}
+
 // What each art type adds to the survey beyond its paint, and the categories that need it.
 // Compound paths, symbol instances, charts and graphs count in every category: in the font
 // categories they are never matched anyway.
 struct TypeWork {
     ZMArtType type;
-    ModeSet modes;
+    bool (*needed)();  // null: always
     ZMErr (*work)(ZMArtHandle art, PaintKind& paintKinds, int32_t inMask);
 };
 
 constexpr TypeWork kTypeWork[] = {
-    {ZM_ART_UNKNOWN, kAnyMode, CountGraph},
-    {ZM_ART_PATH, InModes({3}), SurveyPath},
-    {ZM_ART_COMPOUND_PATH, kAnyMode, CountCompoundPath},
-    // Placed art (categories 3, 10 and 11) is described by the image collectors.
-    // Raster art (categories 3, 6, 10 and 11) is described by the raster collector.
-    {ZM_ART_PLUGIN_GROUP, InModes({3}), SurveyPluginGroup},
-    {ZM_ART_MESH, InModes({3, 6}), CountMesh},
-    // Text frames (categories 3, 6, 7, 9 and 12) are surveyed with the text engine.
-    {ZM_ART_SYMBOL_INSTANCE, kAnyMode, CountSymbolInstance},
-    {ZM_ART_FOREIGN_OBJECT, InModes({3, 6, 9, 12}), CountForeignObject},
-    {ZM_ART_CHART, kAnyMode, CountChart},
+    {ZM_ART_UNKNOWN, nullptr, CountGraph},
+    {ZM_ART_PATH, ObjectsShown, SurveyPath},
+    {ZM_ART_COMPOUND_PATH, nullptr, CountCompoundPath},
+    // Placed art is described by the image collectors, raster art by the raster collector.
+    {ZM_ART_PLUGIN_GROUP, ObjectsShown, SurveyPluginGroup},
+    {ZM_ART_MESH, MeshColorsShown, CountMesh},
+    // Text frames are surveyed with the text engine.
+    {ZM_ART_SYMBOL_INSTANCE, nullptr, CountSymbolInstance},
+    {ZM_ART_FOREIGN_OBJECT, ForeignObjectsShown, CountForeignObject},
+    {ZM_ART_CHART, nullptr, CountChart},
 };
 
 // The mask art and everything it holds, depth first; a plug-in group is entered through its
@@ -142,7 +140,7 @@ ZMErr WalkMaskArt(ZMArtHandle art, PaintKind& paintKinds) {
 int32_t BuildCriteria(ZMMatchCriterion (&criteria)[2]) {
     const Globals& globals = *gGlobals;
     const uint32_t selected = globals.selectionOnly != 0 ? ZM_ART_SELECTED : 0u;
-    const bool fontsOnly = globals.mode == 9 || globals.mode == 12;
+    const bool fontsOnly = globals.mode == kModeFonts || globals.mode == kModeFontDetails;
     criteria[0] = {fontsOnly ? int16_t{ZM_ART_TEXT_FRAME} : int16_t{ZM_ART_ANY}, 0,
                    selected | ZM_ART_COMPOUND_MEMBER, selected};
     criteria[1] = {ZM_ART_FOREIGN_OBJECT, 0, selected, selected};
@@ -220,13 +218,21 @@ ZMErr VisitArt(ZMArtHandle art, PaintKind& paintKinds, int32_t inMask) {
     if (ZMErr error = sArtSuite->GetArtType(art, &type); error != ZM_ERR_NONE) {
         return error;
     }
-    if (Runs(InModes({3}))) {
+    if (ObjectsShown()) {
         // What goes wrong inside a mask stays there: the masked art is still surveyed.
         VisitMaskedArt(art, paintKinds);
     }
+    // The paint, brushes, graphic style and blending of the art, for the categories that show
+    // any of them. The mask was surveyed first, so its marks are part of the art's.
+    if (PaintShown()) {
+        if (ZMErr error = CheckStyle(art, type, paintKinds, inMask); error != ZM_ERR_NONE) {
+            return error;
+        }
+    }
     for (const TypeWork& entry : kTypeWork) {
         if (entry.type == type) {
-            return Runs(entry.modes) ? entry.work(art, paintKinds, inMask) : ZM_ERR_NONE;
+            bool needed = entry.needed == nullptr || entry.needed();
+            return needed ? entry.work(art, paintKinds, inMask) : ZM_ERR_NONE;
         }
     }
     return ZM_ERR_NONE;

@@ -1,11 +1,11 @@
 #include "survey/PluginGroups.hpp"
 
-#include "shell/SuiteSet.hpp"
-#include "survey/SurveyRecord.hpp"
-
 #include <zelmora/ZMVectorizeSuite.h>
 
 #include <cstring>
+
+#include "shell/SuiteSet.hpp"
+#include "survey/SurveyRecord.hpp"
 
 namespace tolvane {
 

@@ -1,15 +1,13 @@
-#include "plugins/tolvane/PluginUnitFixture.hpp"
-#include "support/DocumentBuilder.hpp"
-
-#include <survey/ArtMatcher.hpp>
-
+#include <gtest/gtest.h>
 #include <zelmora/ZMArtSuite.h>
 #include <zelmora/ZMMatchingArtSuite.h>
 
-#include <gtest/gtest.h>
-
 #include <memory>
+#include <survey/ArtMatcher.hpp>
 #include <type_traits>
+
+#include "plugins/tolvane/PluginUnitFixture.hpp"
+#include "support/DocumentBuilder.hpp"
 
 namespace {
 

@@ -1,19 +1,20 @@
-#include "plugins/tolvane/survey/SurveyWalkFixture.hpp"
-#include "support/DocumentBuilder.hpp"
-
+#include <gtest/gtest.h>
+#include <zelmora/ZMArtStyleSuite.h>
 #include <zelmora/ZMArtSuite.h>
 #include <zelmora/ZMLayerSuite.h>
 #include <zelmora/ZMMaskSuite.h>
 #include <zelmora/ZMMatchingArtSuite.h>
+#include <zelmora/ZMMeshSuite.h>
 #include <zelmora/ZMPathStyleSuite.h>
 #include <zelmora/ZMPathSuite.h>
-
-#include <gtest/gtest.h>
 
 #include <limits>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "plugins/tolvane/survey/SurveyWalkFixture.hpp"
+#include "support/DocumentBuilder.hpp"
 
 namespace {
 
@@ -169,6 +170,80 @@ TEST_F(ArtWalkTest, OnlyUnknownArtThatIsAGraphCountsAsAGraph) {
     EXPECT_EQ(Survey(2).graphCount, 1);
 }
 
+// --- Paint ----------------------------------------------------------------------------------
+
+// painted.svg: faded, a half-transparent group, holds ink, a CMYK-filled path. The style check
+// runs in categories 3 to 8 (and while saving): one CMYK object, one transparent group.
+struct StyleCounts {
+    int16_t mode;
+    int32_t saving;
+    int32_t cmykObjects, transparentGroups;
+};
+
+const StyleCounts kStyleCounts[] = {
+    {2, 0, 0, 0},   // Document
+    {3, 0, 1, 1},   // Objects
+    {4, 0, 1, 1},   // Graphic Styles
+    {5, 0, 1, 1},   // Brushes
+    {6, 0, 1, 1},   // Spot Color Objects
+    {7, 0, 1, 1},   // Pattern Objects
+    {8, 0, 1, 1},   // Gradient Objects
+    {10, 0, 0, 0},  // Linked Images
+    {11, 0, 0, 0},  // Embedded Images
+    {2, 1, 1, 1},   // saving from Document
+};
+
+TEST_F(ArtWalkTest, PaintAndTransparencyAreCheckedInTheCategoriesThatShowThem) {
+    OpenWalkFixture("painted.svg");
+    for (const StyleCounts& expected : kStyleCounts) {
+        SCOPED_TRACE("mode " + std::to_string(expected.mode) + " saving " +
+                     std::to_string(expected.saving));
+        globals.saving = expected.saving;
+        const SurveyRecord& record = Survey(expected.mode);
+        EXPECT_EQ(record.cmykObjectCount, expected.cmykObjects);
+        EXPECT_EQ(record.transparentGroupCount, expected.transparentGroups);
+    }
+}
+
+// The style of faded, the first match, cannot be had: the survey ends before anything of it
+// is counted, and ink is never seen.
+TEST_F(ArtWalkTest, AFailingStyleCheckEndsTheSurvey) {
+    OpenWalkFixture("painted.svg");
+    runtime.faults.FailCall(ZM_ART_STYLE_SUITE_NAME, 0, ZM_ERR_INTERNAL);
+    EXPECT_TRUE(AllZero(Survey(3)));
+}
+
+// The mesh's colours are RGB, CMYK, gray. The marks are kept for the whole mesh and counted
+// after each colour: RGB after all three (3), CMYK after the last two (2), gray after the last
+// (1). The mesh inside veiled's mask counts as a mesh, but its solid colours set no mark.
+TEST_F(ArtWalkTest, AMeshCountsTheColoursSeenSoFarAfterEachColour) {
+    OpenWalkFixture("mesh.svg");
+    const SurveyRecord& record = Survey(3);
+    EXPECT_EQ(record.meshCount, 2);
+    EXPECT_EQ(record.rgbObjectCount, 3);
+    EXPECT_EQ(record.cmykObjectCount, 2);
+    EXPECT_EQ(record.grayObjectCount, 1);
+    EXPECT_EQ(record.opacityMaskCount, 1);
+}
+
+// Spot Color Objects surveys meshes too; masks are not looked into there.
+TEST_F(ArtWalkTest, TheSpotColorCategoryCountsTheMeshesColoursToo) {
+    OpenWalkFixture("mesh.svg");
+    const SurveyRecord& record = Survey(6);
+    EXPECT_EQ(record.meshCount, 1);
+    EXPECT_EQ(record.rgbObjectCount, 3);
+}
+
+// A mesh whose colours cannot be listed is still a mesh, and the survey goes on to veiled.
+TEST_F(ArtWalkTest, AMeshWhoseColoursCannotBeListedIsStillCounted) {
+    OpenWalkFixture("mesh.svg");
+    runtime.faults.FailCall(ZM_MESH_SUITE_NAME, 1, ZM_ERR_INTERNAL);
+    const SurveyRecord& record = Survey(3);
+    EXPECT_EQ(record.meshCount, 2);
+    EXPECT_EQ(record.rgbObjectCount, 0);
+    EXPECT_EQ(record.opacityMaskCount, 1);
+}
+
 // --- Plug-in groups and masks ----------------------------------------------------------------
 
 // Two blends, one group of each other kind; the symbolism group and the group whose name
@@ -202,6 +277,15 @@ TEST_F(ArtWalkTest, OpacityMasksAreCountedAndTheirArtIsSurveyedDepthFirst) {
     EXPECT_EQ(record.opacityMaskCount, 3);
     EXPECT_EQ(record.pathCount, 7);
     EXPECT_EQ(record.blendCount, 1);
+}
+
+// ink is filled with CMYK, but inside a mask solid colours mark nothing. masked and wrapped
+// are filled black (RGB) by default: two RGB objects.
+TEST_F(ArtWalkTest, PaintInsideAnOpacityMaskMarksNoSolidColour) {
+    OpenWalkFixture("masks.svg");
+    const SurveyRecord& record = Survey(3);
+    EXPECT_EQ(record.cmykObjectCount, 0);
+    EXPECT_EQ(record.rgbObjectCount, 2);
 }
 
 TEST_F(ArtWalkTest, OpacityMasksAreNotLookedForOutsideTheObjectsCategory) {
@@ -304,9 +388,7 @@ TEST_F(ArtWalkTest, AFailingLayerListLeavesTheRecordEmpty) {
     EXPECT_TRUE(AllZero(Survey(3)));
 }
 
-TEST_F(ArtWalkTest, WithoutADocumentNothingIsSurveyed) {
-    EXPECT_TRUE(AllZero(Survey(3)));
-}
+TEST_F(ArtWalkTest, WithoutADocumentNothingIsSurveyed) { EXPECT_TRUE(AllZero(Survey(3))); }
 
 // box comes first: it is counted as a path and its 4 anchors are added before its closed
 // flag cannot be read. The survey ends there: ring and the rest are never seen. The progress

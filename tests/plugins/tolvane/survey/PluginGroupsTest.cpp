@@ -1,15 +1,13 @@
-#include "plugins/tolvane/survey/SurveyWalkFixture.hpp"
-
-#include <survey/PluginGroups.hpp>
-
+#include <gtest/gtest.h>
 #include <zelmora/ZMArtSuite.h>
 #include <zelmora/ZMPluginGroupSuite.h>
 #include <zelmora/ZMVectorizeSuite.h>
 
-#include <gtest/gtest.h>
-
 #include <cstring>
 #include <string>
+#include <survey/PluginGroups.hpp>
+
+#include "plugins/tolvane/survey/SurveyWalkFixture.hpp"
 
 namespace {
 
@@ -43,12 +41,9 @@ struct KnownPlugin {
 // Each group of plugin-groups.svg and the one counter its plug-in's name raises; the trace
 // group's plug-in is none of the named ones, and the host's vectorize suite recognises it.
 const KnownPlugin kKnownPlugins[] = {
-    {"blendA", &SurveyRecord::blendCount},
-    {"shape", &SurveyRecord::compoundShapeCount},
-    {"paint", &SurveyRecord::livePaintGroupCount},
-    {"envelope", &SurveyRecord::envelopeCount},
-    {"flare", &SurveyRecord::flareCount},
-    {"trace", &SurveyRecord::tracingObjectCount},
+    {"blendA", &SurveyRecord::blendCount},         {"shape", &SurveyRecord::compoundShapeCount},
+    {"paint", &SurveyRecord::livePaintGroupCount}, {"envelope", &SurveyRecord::envelopeCount},
+    {"flare", &SurveyRecord::flareCount},          {"trace", &SurveyRecord::tracingObjectCount},
 };
 
 TEST_F(PluginGroupsTest, EachKnownPlugInRaisesItsOwnCounterOnly) {

@@ -1,20 +1,19 @@
 #pragma once
 
-#include "plugins/tolvane/PluginUnitFixture.hpp"
-#include "support/RecordingReporter.hpp"
-
-#include <document/ArtLookup.hpp>
-#include <importers/DocumentImport.hpp>
-#include <shell/Globals.hpp>
-#include <survey/ArtWalk.hpp>
-#include <survey/SurveyRecord.hpp>
-
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <document/ArtLookup.hpp>
 #include <filesystem>
+#include <importers/DocumentImport.hpp>
+#include <shell/Globals.hpp>
 #include <stdexcept>
 #include <string>
+#include <survey/ArtWalk.hpp>
+#include <survey/SurveyRecord.hpp>
+
+#include "plugins/tolvane/PluginUnitFixture.hpp"
+#include "support/RecordingReporter.hpp"
 
 namespace zm::test {
 
