@@ -32,8 +32,10 @@ protected:
     ScratchFolder scratch;
 };
 
+// Selection Only starts on; turned off, the whole document is saved.
 TEST_F(SaveReportTest, AnUntitledDocumentProposesInfoTxtForTheDocument) {
     ShowWithDocument();
+    Panel()->ChooseFlyoutItem(kSelectionOnly);
     Save();  // no answer: the user cancels
     ASSERT_EQ(Runtime().dialogs.shown.size(), 1u);
     EXPECT_EQ(LastDialog().kind, host::DialogKind::SaveFile);
@@ -49,9 +51,10 @@ TEST_F(SaveReportTest, ADocumentWithAFileProposesItsNameFollowedByInfoTxt) {
     EXPECT_EQ(LastDialog().defaultName, "Poster Info.txt");
 }
 
+// Selection Only starts on.
 TEST_F(SaveReportTest, InSelectionModeThePromptSaysSelection) {
     ShowWithDocument();
-    Panel()->ChooseFlyoutItem(kSelectionOnly);
+    ASSERT_NE(Globals().selectionOnly, 0);
     Save();
     EXPECT_EQ(LastDialog().prompt, "Save Selection Info As:");
 }
@@ -91,9 +94,10 @@ TEST_F(SaveReportTest, TheFileIsSingleByteTextWithCarriageReturnLineEnds) {
 }
 
 // The Document category does not survey; Save does, whatever the category: the document's
-// one rectangle is in the file's Objects section.
+// one rectangle is in the file's Objects section (Selection Only, on at first, turned off).
 TEST_F(SaveReportTest, SavingInTheDocumentCategoryStillSurveysTheArt) {
     ShowWithDocument();
+    Panel()->ChooseFlyoutItem(kSelectionOnly);
     ASSERT_EQ(Globals().mode, kDocument);
     const std::string shown = Shown();
     const fs::path target = scratch.Path() / "report.txt";
