@@ -50,6 +50,7 @@ void Survey(benchmark::State& state, int16_t mode, int32_t saving) {
     tolvane::InitializeGlobals(globals);
     globals.mode = mode;
     globals.saving = saving;
+    globals.selectionOnly = 0;  // on at first, and nothing is selected: it would match nothing
     tolvane::gGlobals = &globals;
     tolvane::MakeSurvey();
     for (auto _ : state) {
