@@ -288,6 +288,20 @@ TEST_F(ArtWalkTest, PaintInsideAnOpacityMaskMarksNoSolidColour) {
     EXPECT_EQ(record.rgbObjectCount, 2);
 }
 
+// masked alone: its mask, the mask's path ink (CMYK) and masked itself (black, RGB) are
+// visited; of the two paints only masked's marks the accumulator.
+TEST_F(ArtWalkTest, AMaskedPathsMaskIsCountedAndItsPathSurveyedWithoutItsSolidColour) {
+    OpenWalkFixture("masks.svg");
+    globals.mode = 3;
+    tolvane::PaintKind paintKinds = 0;
+    ASSERT_EQ(tolvane::VisitArt(Handle("masked"), paintKinds, 0), ZM_ERR_NONE);
+    const SurveyRecord& record = tolvane::gSurvey->record;
+    EXPECT_EQ(record.opacityMaskCount, 1);
+    EXPECT_EQ(record.pathCount, 2);
+    EXPECT_EQ(record.cmykObjectCount, 0);
+    EXPECT_EQ(paintKinds, tolvane::kPaintRgb);
+}
+
 TEST_F(ArtWalkTest, OpacityMasksAreNotLookedForOutsideTheObjectsCategory) {
     OpenWalkFixture("masks.svg");
     const SurveyRecord& record = Survey(4);
