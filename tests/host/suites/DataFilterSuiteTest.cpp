@@ -27,8 +27,8 @@ using zm::test::WriteFileBytes;
 constexpr uint32_t kCreator = 0x74747874;  // 'ttxt'
 constexpr uint32_t kType = 0x54455854;     // 'TEXT'
 
-// Line ends of both kinds, a NUL, and bytes of 0x80 and above that are no valid UTF-8 (a lone
-// continuation byte, 0xFF): none of them may be translated on the way to the disk.
+// Line ends of both kinds, a NUL, UTF-8 (u-umlaut) and bytes of 0x80 and above that are no
+// UTF-8 at all (0xA9, a lone 0x80, 0xFF): none of them may change on the way to the disk.
 constexpr char kMixed[] = "Name:\r\nGr\xC3\xBCn \xA9\x80\xFF\n\0end\r\n";
 const std::string kMixedBytes(kMixed, sizeof kMixed - 1);  // 23 bytes, the NUL among them
 
@@ -63,7 +63,7 @@ class DataFilterSuiteTest : public zm::test::DocumentSuiteFixture {
 protected:
     void SetUp() override {
         DocumentSuiteFixture::SetUp();
-        plugin.framework.description = &description;
+        plugin.framework.description = &description;  // as Dispatch records it, for FreeBlock
         Acquire(ZM_FILE_PATH_SUITE_NAME, ZM_FILE_PATH_SUITE_VERSION, paths);
         Acquire(ZM_DATA_FILTER_SUITE_NAME, ZM_DATA_FILTER_SUITE_VERSION, filters);
         Acquire(ZM_LMB_PLUGIN_SUITE_NAME, ZM_LMB_PLUGIN_SUITE_VERSION, framework);
