@@ -1,4 +1,5 @@
 #include "plugins/tolvane/PanelSession.hpp"
+#include "support/RecordingReporter.hpp"
 
 #include <ostui/ListItem.hpp>
 
@@ -11,6 +12,7 @@ namespace {
 
 constexpr int kSelectionOnly = 1;
 constexpr int kDocument = 2;
+constexpr int kObjects = 3;
 constexpr int kFonts = 9;
 constexpr int kSave = 13;
 
@@ -145,6 +147,37 @@ TEST_F(TolvanePanelTest, EveryCategoryItemLeavesExactlyItsOwnItemChecked) {
                 << "after " << item << ", item " << other;
         }
     }
+}
+
+// The Document category reads the document's settings only: its refresh walks no art, so no
+// survey progress is shown. The Objects category walks it.
+TEST_F(TolvanePanelTest, OnlyCategoriesOtherThanDocumentWalkTheArt) {
+    ShowWithDocument();
+    RecordingReporter progress;
+    Runtime().progress.SetReporter(&progress);
+    Panel()->ChooseFlyoutItem(kDocument);
+    EXPECT_TRUE(progress.calls.empty());
+    Panel()->ChooseFlyoutItem(kObjects);
+    Runtime().progress.SetReporter(nullptr);
+    ASSERT_FALSE(progress.calls.empty());
+    EXPECT_EQ(progress.calls.front().rfind("begin ", 0), 0u);
+    EXPECT_EQ(progress.calls.back(), "end");
+}
+
+// Selection Only starts on and nothing is selected: nothing is counted. Off, the document's
+// one rectangle counts: 10 x 10 px, closed, 4 points, 40 px around, in the document's unit
+// (pixels) with three decimals ("rulerType" unset).
+TEST_F(TolvanePanelTest, TheObjectsCategoryCountsWhatTheSelectionSettingTakesIn) {
+    ShowWithDocument();
+    ASSERT_EQ(Globals().selectionOnly, 1);
+    Panel()->ChooseFlyoutItem(kObjects);
+    EXPECT_EQ(Shown().rfind("Objects:\r\n\r\nPaths: NONE\r\n", 0), 0u) << Shown();
+    Panel()->ChooseFlyoutItem(kSelectionOnly);
+    EXPECT_EQ(Shown().rfind("Objects:\r\n\r\nPaths: 1 (0 open, 1 closed, 4 points, length = "
+                            "40.000 px)\r\n",
+                            0),
+              0u)
+        << Shown();
 }
 
 }  // namespace
