@@ -1,5 +1,6 @@
 #include "plugins/tolvane/PluginUnitFixture.hpp"
 #include "plugins/tolvane/report/ExpectedLines.hpp"
+#include "plugins/tolvane/report/ExpectedSections.hpp"
 
 #include <importers/svg/SvgImporter.hpp>
 #include <report/DocumentSection.hpp>
@@ -50,16 +51,7 @@ TEST_F(DocumentSectionTest, AnUntitledDocumentOpensWithTheColorModeAfterTheTitle
     document->rulerUnits = RulerUnits::Points;
     Open(std::move(document));
     ASSERT_EQ(Write(), ZM_ERR_NONE);
-    ExpectLines({kTitle,
-                 {"Color Mode: RGB color", 1},
-                 {"Color Profile: none", 1},
-                 {"Ruler Units: Points", 1},
-                 {"Artboard Dimensions: 612 pt x 792 pt", 1},
-                 {"Show Images in Outline Mode: OFF", 1},
-                 {"Highlight Substituted Fonts: OFF", 1},
-                 {"Highlight Substituted Glyphs: OFF", 1},
-                 {"Preserve Text Editability", 1},
-                 {"Simulate Colored Paper: OFF", 1}});
+    ExpectLines(zm::test::NewDocumentSectionInPoints());
 }
 
 // The path is absolute already, so its full display string is the path itself. The Name

@@ -1,5 +1,6 @@
 #include "plugins/tolvane/PluginUnitFixture.hpp"
 #include "plugins/tolvane/report/ExpectedLines.hpp"
+#include "plugins/tolvane/report/ExpectedSections.hpp"
 
 #include <document/Document.hpp>
 #include <report/ReportAssembly.hpp>
@@ -17,50 +18,6 @@ namespace zm::test {
 namespace {
 
 const std::string kSeparator = "\r\n" + std::string(77, '-') + "\r\n";
-
-// An untitled RGB document in points with no art: the Document section of a new document.
-std::vector<Line> DocumentSection() {
-    return {{"Document:", 2},
-            {"Color Mode: RGB color", 1},
-            {"Color Profile: none", 1},
-            {"Ruler Units: Points", 1},
-            {"Artboard Dimensions: 612 pt x 792 pt", 1},
-            {"Show Images in Outline Mode: OFF", 1},
-            {"Highlight Substituted Fonts: OFF", 1},
-            {"Highlight Substituted Glyphs: OFF", 1},
-            {"Preserve Text Editability", 1},
-            {"Simulate Colored Paper: OFF", 1}};
-}
-
-// Every counter 0: every fixed line reads "NONE" (the paths line too), the optional group is
-// absent, and the blank lines close the four groups of fixed lines.
-std::vector<Line> EmptyObjectsSection() {
-    return {{"Objects:", 2},
-            {"Paths: NONE", 1},
-            {"Compound Paths: NONE", 1},
-            {"Gradient Meshes: NONE", 1},
-            {"Symbol Instances: NONE", 2},
-            {"All Type Objects: NONE", 1},
-            {"Point Type Objects: NONE", 1},
-            {"Area Type Objects: NONE", 1},
-            {"Type on Path Objects: NONE", 2},
-            {"Clipping Masks: NONE", 1},
-            {"Opacity Masks: NONE", 1},
-            {"Transparent Groups: NONE", 1},
-            {"Transparent Objects: NONE", 1},
-            {"RGB Objects: NONE", 1},
-            {"CMYK Objects: NONE", 1},
-            {"Grayscale Objects: NONE", 2},
-            {"Spot Color Objects: NONE", 1},
-            {"Pattern Objects: NONE", 1},
-            {"Gradient Objects: NONE", 1},
-            {"Brushed Objects: NONE", 1},
-            {"Styled Objects: NONE", 2},
-            {"Fonts: NONE", 1},
-            {"Linked Images: NONE", 1},
-            {"Embedded Images: NONE", 1},
-            {"Non-Native Art Objects: NONE", 1}};
-}
 
 // An empty list: its title, a blank line on screen, then "NONE".
 std::vector<Line> EmptyList(const std::string& title) { return {{title, 2}, {"NONE", 1}}; }
@@ -129,7 +86,7 @@ TEST_F(ReportAssemblyTest, ADocumentWithNothingInItStillListsEveryTitleWithNone)
     ASSERT_EQ(tolvane::AssembleReport(report), ZM_ERR_NONE);
 
     Expected expected;
-    expected.Section(DocumentSection());
+    expected.Section(NewDocumentSectionInPoints());
     expected.Section(EmptyObjectsSection());
     for (const std::string& title : kListTitles) {
         expected.Section(EmptyList(title));
