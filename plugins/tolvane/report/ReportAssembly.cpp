@@ -2,10 +2,10 @@
 
 #include "report/DocumentSection.hpp"
 #include "report/Error.hpp"
+#include "report/ListSections.hpp"
 #include "report/LoadTolvaneString.hpp"
 #include "report/ObjectsSection.hpp"
 #include "report/ReportBuffer.hpp"
-#include "report/ReportLists.hpp"
 #include "shell/AppContext.hpp"
 #include "survey/SurveyRecord.hpp"
 
@@ -34,32 +34,6 @@ HostString Heading() {
     return heading;
 }
 
-using SectionWriter = ZMErr (*)(ReportText&);
-
-ZMErr WriteGraphicStyles(ReportText& text) {
-    return AppendCountList(text, gSurvey->lists.graphicStyleList, kTitleGraphicStyles);
-}
-
-// One name-list section per list, each under its own title.
-template <SurveyStringList SurveyLists::*list, int16_t title>
-ZMErr WriteNames(ReportText& text) {
-    return AppendNameList(text, gSurvey->lists.*list, title);
-}
-
-constexpr SectionWriter kSections[] = {
-    AppendDocumentSection,
-    WriteObjectsSection,
-    WriteGraphicStyles,
-    WriteNames<&SurveyLists::brushList, kTitleBrushes>,
-    WriteNames<&SurveyLists::spotColorList, kTitleSpotColors>,
-    WriteNames<&SurveyLists::patternList, kTitlePatterns>,
-    WriteNames<&SurveyLists::gradientList, kTitleGradients>,
-    WriteNames<&SurveyLists::fontList, kTitleFonts>,
-    WriteNames<&SurveyLists::linkedImageList, kTitleLinkedImages>,
-    WriteNames<&SurveyLists::embeddedImageList, kTitleEmbeddedImages>,
-    WriteNames<&SurveyLists::fontDetailList, kTitleFontDetails>,
-};
-
 }  // namespace
 
 ZMErr AssembleReport(ReportText& text) {
@@ -76,9 +50,18 @@ ZMErr AssembleReport(ReportText& text) {
     }
     AppendReportLine(text, heading.Get(), 0);
 
-    for (SectionWriter write : kSections) {
+    // Document, Objects, then the lists, each after the separator.
+    AppendSeparator(text);
+    if (ZMErr error = AppendDocumentSection(text); error != ZM_ERR_NONE) {
+        return error;
+    }
+    AppendSeparator(text);
+    if (ZMErr error = WriteObjectsSection(text); error != ZM_ERR_NONE) {
+        return error;
+    }
+    for (const ListSection& section : ListSections()) {
         AppendSeparator(text);
-        if (ZMErr error = write(text); error != ZM_ERR_NONE) {
+        if (ZMErr error = WriteListSection(text, section); error != ZM_ERR_NONE) {
             return error;
         }
     }
