@@ -39,9 +39,9 @@ protected:
     // The space of the gradient filling "<id>Art".
     ZMColorSpaceHandle GradientSpace(const std::string& id) {
         ZMColorSpaceHandle space = nullptr;
-        EXPECT_EQ(tolvane::sColorSpaceSuite->GetGradientColorSpace(
-                      FillOf(id + "Art").c.gradient, &space),
-                  ZM_ERR_NONE);
+        EXPECT_EQ(
+            tolvane::sColorSpaceSuite->GetGradientColorSpace(FillOf(id + "Art").c.gradient, &space),
+            ZM_ERR_NONE);
         return space;
     }
 
@@ -64,9 +64,8 @@ protected:
     }
     // A separation whose ink no swatch of the document is named after.
     ZMColorSpaceHandle ForeignInk() {
-        const ColorSpace& cmyk =
-            Intern(document->colorSpaces,
-                   zm::host::document::ProcessColorSpace(ColorSpaceFamily::Cmyk));
+        const ColorSpace& cmyk = Intern(
+            document->colorSpaces, zm::host::document::ProcessColorSpace(ColorSpaceFamily::Cmyk));
         return Held(zm::host::document::SeparationColorSpace("Unknown Ink", cmyk));
     }
 
