@@ -50,8 +50,7 @@ ZMErr AddMemberSpots(ZMColorSpaceHandle space) {
 
 ZMErr AddColorSpaceSpots(ZMColorSpaceHandle space) {
     int16_t family = 0;
-    if (ZMErr error = sColorSpaceSuite->GetColorSpaceFamily(space, &family);
-        error != ZM_ERR_NONE) {
+    if (ZMErr error = sColorSpaceSuite->GetColorSpaceFamily(space, &family); error != ZM_ERR_NONE) {
         return error;
     }
     switch (family) {

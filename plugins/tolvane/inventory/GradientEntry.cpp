@@ -129,8 +129,7 @@ ZMErr AddSpotStops(ZMGradientHandle gradient) {
             continue;
         }
         ZMCustomColor swatch{};
-        if (sCustomColorSuite->GetCustomColor(stop.color.c.custom.color, &swatch) !=
-                ZM_ERR_NONE ||
+        if (sCustomColorSuite->GetCustomColor(stop.color.c.custom.color, &swatch) != ZM_ERR_NONE ||
             (swatch.flags & ZM_CUSTOM_COLOR_SPOT) == 0) {
             continue;
         }
@@ -154,8 +153,8 @@ ZMErr AddGradient(ZMGradientHandle gradient) {
         if (LinkStrFind(gradients, entry.Get())) {
             return ZM_ERR_NONE;
         }
-        if (ZMErr error = InsertOrAlert(gradients, entry.Get(), kAlertIdGradient,
-                                        "AddGradient:LinkStrAdd");
+        if (ZMErr error =
+                InsertOrAlert(gradients, entry.Get(), kAlertIdGradient, "AddGradient:LinkStrAdd");
             error != ZM_ERR_NONE) {
             return error;
         }

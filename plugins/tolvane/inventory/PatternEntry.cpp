@@ -38,8 +38,8 @@ ZMErr AddPattern(ZMPatternHandle pattern, PaintKind& marks, int32_t skipSolid) {
         if (LinkStrFind(patterns, name.Get())) {
             return ZM_ERR_NONE;
         }
-        if (ZMErr error = InsertOrAlert(patterns, name.Get(), kAlertIdNone,
-                                        "AddPattern:LinkStrAdd");
+        if (ZMErr error =
+                InsertOrAlert(patterns, name.Get(), kAlertIdNone, "AddPattern:LinkStrAdd");
             error != ZM_ERR_NONE) {
             return error;
         }

@@ -31,8 +31,7 @@ private:
 // that cannot take the name is shown, and the survey goes on.
 void CountNamedStyle(ZMUnicodeString name) {
     ++gSurvey->record.styledObjectCount;
-    InsertOrAlert(gSurvey->lists.graphicStyleList, name, kAlertIdStyle,
-                  "CheckStyle:LinkStrAdd");
+    InsertOrAlert(gSurvey->lists.graphicStyleList, name, kAlertIdStyle, "CheckStyle:LinkStrAdd");
 }
 
 // A plain style: its fill and stroke, then its blending read from the blend style suite.
@@ -93,8 +92,7 @@ ZMErr CheckParsedStyle(ZMArtStyleHandle style, int16_t artType, PaintKind& marks
     if (ZMErr error = sArtStyleParserSuite->NewParser(parser.Out()); error != ZM_ERR_NONE) {
         return error;
     }
-    if (ZMErr error = sArtStyleParserSuite->ParseStyle(parser.Get(), style);
-        error != ZM_ERR_NONE) {
+    if (ZMErr error = sArtStyleParserSuite->ParseStyle(parser.Get(), style); error != ZM_ERR_NONE) {
         return error;
     }
     int32_t fieldCount = 0;

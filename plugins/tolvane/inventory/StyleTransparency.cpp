@@ -46,8 +46,7 @@ void CountTransparency(int16_t artType, ZMBlendingMode mode, double opacity) {
 ZMErr CheckStyleTransparency(ZMArtStyleHandle style, int16_t artType) {
     ZMBlendingMode mode = ZM_BLEND_NORMAL;
     double opacity = 1.0;
-    if (ZMErr error = sBlendStyleSuite->GetStyleBlendingMode(style, &mode);
-        error != ZM_ERR_NONE) {
+    if (ZMErr error = sBlendStyleSuite->GetStyleBlendingMode(style, &mode); error != ZM_ERR_NONE) {
         return error;
     }
     if (ZMErr error = sBlendStyleSuite->GetStyleOpacity(style, &opacity); error != ZM_ERR_NONE) {
@@ -68,8 +67,7 @@ ZMErr CheckParsedTransparency(ZMStyleParser parser, int16_t artType) {
         return error;
     }
     ZMDictKey opacityKey = nullptr;
-    if (ZMErr error = sDictionarySuite->Key(kBlendOpacityKey, &opacityKey);
-        error != ZM_ERR_NONE) {
+    if (ZMErr error = sDictionarySuite->Key(kBlendOpacityKey, &opacityKey); error != ZM_ERR_NONE) {
         return error;
     }
     ZMBlendingMode mode = ZM_BLEND_NORMAL;

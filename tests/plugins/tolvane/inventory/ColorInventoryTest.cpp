@@ -30,9 +30,9 @@ protected:
     // Every fill of the document's art and the one stroke, into one accumulator.
     PaintKind ClassifyEverything() {
         PaintKind marks = 0;
-        for (const char* id : {"rgb", "cmyk", "gray", "spotCmyk", "spotCmykAgain", "spotRgb",
-                               "spotLab", "processCmyk", "processRgb", "processLab",
-                               "patterned", "graded"}) {
+        for (const char* id :
+             {"rgb", "cmyk", "gray", "spotCmyk", "spotCmykAgain", "spotRgb", "spotLab",
+              "processCmyk", "processRgb", "processLab", "patterned", "graded"}) {
             EXPECT_EQ(tolvane::AddCustomColor(FillOf(id), marks, 0), ZM_ERR_NONE) << id;
         }
         EXPECT_EQ(tolvane::AddCustomColor(StrokeOf("spotCmyk"), marks, 0), ZM_ERR_NONE);
@@ -134,9 +134,9 @@ TEST_F(ColorInventoryTest, ThePatternCategoryDoesNotGatherGradients) {
 // counters stay right.
 TEST_F(ColorInventoryTest, TheFontsCategoryGathersNothingButStillMarks) {
     globals.mode = tolvane::kModeFonts;
-    EXPECT_EQ(ClassifyEverything(), tolvane::kPaintRgb | tolvane::kPaintCmyk |
-                                        tolvane::kPaintGray | tolvane::kPaintSpot |
-                                        tolvane::kPaintPattern | tolvane::kPaintGradient);
+    EXPECT_EQ(ClassifyEverything(), tolvane::kPaintRgb | tolvane::kPaintCmyk | tolvane::kPaintGray |
+                                        tolvane::kPaintSpot | tolvane::kPaintPattern |
+                                        tolvane::kPaintGradient);
     EXPECT_TRUE(Entries(Lists().spotColorList).empty());
     EXPECT_TRUE(Entries(Lists().patternList).empty());
     EXPECT_TRUE(Entries(Lists().gradientList).empty());

@@ -67,7 +67,8 @@ TEST_F(GradientEntryTest, ProcessSwatchStopsCountUnderTheirModel) {
 TEST_F(GradientEntryTest, SpotCmykStopsMakeACmykGradientAndListEachSpotOnce) {
     ASSERT_EQ(Add("spotInks"), ZM_ERR_NONE);
     EXPECT_EQ(Entries(Lists().gradientList), (Texts{"Spot Inks (linear) (CMYK)"}));
-    EXPECT_EQ(CountedEntries(Lists().spotColorList), (Texts{"Cool Blue (CMYK):1", "Warm Red (CMYK):1"}));
+    EXPECT_EQ(CountedEntries(Lists().spotColorList),
+              (Texts{"Cool Blue (CMYK):1", "Warm Red (CMYK):1"}));
 }
 
 // Spot stops are listed in whatever category the panel shows; the survey's spot counter is
@@ -129,9 +130,8 @@ TEST_F(GradientEntryTest, EntriesStandInOrderOfTheirText) {
     for (const char* id : {"twinA", "sky", "emptyRadial", "emptyLinear"}) {
         ASSERT_EQ(Add(id), ZM_ERR_NONE) << id;
     }
-    EXPECT_EQ(Entries(Lists().gradientList),
-              (Texts{"Empty (linear) (RGB)", "Empty (radial) (RGB)", "Sky (radial) (RGB)",
-                     "Twin (linear) (CMYK)"}));
+    EXPECT_EQ(Entries(Lists().gradientList), (Texts{"Empty (linear) (RGB)", "Empty (radial) (RGB)",
+                                                    "Sky (radial) (RGB)", "Twin (linear) (CMYK)"}));
 }
 
 TEST_F(GradientEntryTest, AFailingNameQueryEndsWithTheHostsCode) {

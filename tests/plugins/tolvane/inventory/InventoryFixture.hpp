@@ -40,8 +40,8 @@ protected:
     }
 
     void Import(const std::string& fixture) {
-        document = &Open(host::ImportDocument(std::string(ZELMORA_TEST_FIXTURES) +
-                                              "/svg/inventory/" + fixture));
+        document = &Open(
+            host::ImportDocument(std::string(ZELMORA_TEST_FIXTURES) + "/svg/inventory/" + fixture));
     }
 
     ZMArtHandle Art(const std::string& id) {
@@ -87,9 +87,8 @@ protected:
     // gradient.
     std::vector<int32_t> ModelCounters() {
         const tolvane::SurveyRecord& record = Record();
-        return {record.rgbObjectCount,     record.cmykObjectCount,
-                record.grayObjectCount,    record.spotObjectCount,
-                record.patternObjectCount, record.gradientObjectCount};
+        return {record.rgbObjectCount,  record.cmykObjectCount,    record.grayObjectCount,
+                record.spotObjectCount, record.patternObjectCount, record.gradientObjectCount};
     }
 
     // The alert the out-of-memory path shows for a place, as the alert routine lays it out:

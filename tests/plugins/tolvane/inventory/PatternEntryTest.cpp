@@ -24,9 +24,7 @@ protected:
         Import("patterns.svg");
     }
 
-    ZMErr Add(const std::string& id) {
-        return tolvane::AddPattern(FillOf(id).c.pattern, marks, 0);
-    }
+    ZMErr Add(const std::string& id) { return tolvane::AddPattern(FillOf(id).c.pattern, marks, 0); }
 
     PaintKind marks = 0;
 };

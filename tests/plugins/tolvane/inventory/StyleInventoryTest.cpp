@@ -57,9 +57,9 @@ TEST_F(StyleInventoryTest, TenObjectsWithOneGraphicStyleGiveOneLineCountingTen) 
     }
     EXPECT_EQ(CountedEntries(Lists().graphicStyleList), (Texts{"Shadow:10"}));
     EXPECT_EQ(Record().styledObjectCount, 10);
-    ASSERT_EQ(tolvane::AppendCountList(report, Lists().graphicStyleList,
-                                       tolvane::kTitleGraphicStyles),
-              ZM_ERR_NONE);
+    ASSERT_EQ(
+        tolvane::AppendCountList(report, Lists().graphicStyleList, tolvane::kTitleGraphicStyles),
+        ZM_ERR_NONE);
     EXPECT_EQ(Text(report.displayText.Get()), "Graphic Styles:\r\n\r\nShadow: 10\r\n");
 }
 
