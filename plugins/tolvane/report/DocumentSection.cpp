@@ -2,6 +2,7 @@
 
 #include "report/DocumentQueries.hpp"
 #include "report/Error.hpp"
+#include "report/HostFilePath.hpp"
 #include "report/LoadTolvaneString.hpp"
 #include "report/ReportBuffer.hpp"
 #include "shell/SuiteSet.hpp"
@@ -60,18 +61,6 @@ HostString OrEmpty(Query&& query) {
     }
 }
 
-class FilePath {
-public:
-    FilePath() { zm::Check(sFilePathSuite->NewFilePath(&path_)); }
-    ~FilePath() { sFilePathSuite->DisposeFilePath(path_); }
-    FilePath(const FilePath&) = delete;
-    FilePath& operator=(const FilePath&) = delete;
-    ZMFilePath Get() const { return path_; }
-
-private:
-    ZMFilePath path_ = nullptr;
-};
-
 class TextResources {
 public:
     TextResources() { zm::Check(sDocumentSuite->GetDocumentTextResources(&resources_)); }
@@ -122,7 +111,7 @@ private:
 
 // An untitled document has no file: then the Name line is left out.
 void AppendName(ReportText& text, const Parts& parts) {
-    FilePath path;
+    HostFilePath path;
     if (sDocumentSuite->GetDocumentFilePath(path.Get()) != ZM_ERR_NONE) {
         return;
     }

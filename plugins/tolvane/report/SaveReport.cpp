@@ -2,6 +2,7 @@
 
 #include "panel/TolvanePanel.hpp"
 #include "report/Error.hpp"
+#include "report/HostFilePath.hpp"
 #include "report/LoadTolvaneString.hpp"
 #include "report/ReportAssembly.hpp"
 #include "shell/AppContext.hpp"
@@ -24,22 +25,10 @@ constexpr int16_t kNameSuffix = 2;           // ResSave
 constexpr uint32_t kCreator = ZM_FOUR_CHAR('t', 't', 'x', 't');
 constexpr uint32_t kFileType = ZM_FOUR_CHAR('T', 'E', 'X', 'T');
 
-class OwnedFilePath {
-public:
-    OwnedFilePath() { zm::Check(sFilePathSuite->NewFilePath(&path_)); }
-    ~OwnedFilePath() { sFilePathSuite->DisposeFilePath(path_); }
-    OwnedFilePath(const OwnedFilePath&) = delete;
-    OwnedFilePath& operator=(const OwnedFilePath&) = delete;
-    ZMFilePath Get() const { return path_; }
-
-private:
-    ZMFilePath path_ = nullptr;
-};
-
 // The document's file name without its extension and " Info.txt"; "Info.txt" for a
 // document that has no file yet.
 HostString DefaultFileName() {
-    OwnedFilePath documentPath;
+    HostFilePath documentPath;
     if (sDocumentSuite->GetDocumentFilePath(documentPath.Get()) != ZM_ERR_NONE) {
         return LoadTolvaneString(ResSave, kUntitledName);
     }
@@ -89,7 +78,7 @@ void SaveReport(TolvanePanel& panel) {
         HostString defaultName = DefaultFileName();
         HostString prompt = LoadTolvaneString(
             ResMode, gGlobals->selectionOnly != 0 ? kSaveSelectionPrompt : kSaveDocumentPrompt);
-        OwnedFilePath target;
+        HostFilePath target;
         if (sUserSuite->PutFileDialog(prompt.Get(), nullptr, defaultName.Get(), target.Get()) !=
             ZM_ERR_NONE) {
             return;
