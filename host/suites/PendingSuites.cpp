@@ -18,7 +18,6 @@
 #include <zelmora/KRXTextFrameSuites.h>
 #include <zelmora/KRXTextRangeSuites.h>
 #include <zelmora/KRXTextResourcesSuites.h>
-#include <zelmora/ZMARMSuite.h>
 #include <zelmora/ZMArtStyleSuite.h>
 #include <zelmora/ZMArtSuite.h>
 #include <zelmora/ZMArtboardSuite.h>
@@ -46,11 +45,9 @@
 #include <zelmora/ZMPathStyleSuite.h>
 #include <zelmora/ZMPathSuite.h>
 #include <zelmora/ZMPatternSuite.h>
-#include <zelmora/ZMPlacedSuite.h>
 #include <zelmora/ZMPluginGroupSuite.h>
 #include <zelmora/ZMPreferenceSuite.h>
 #include <zelmora/ZMQuorvelPIPSuite.h>
-#include <zelmora/ZMRasterSuite.h>
 #include <zelmora/ZMRealMathSuite.h>
 #include <zelmora/ZMStringFormatUtilsSuite.h>
 #include <zelmora/ZMSymbolSuite.h>
@@ -84,8 +81,6 @@ constexpr PendingSuiteTable kPendingSuites[] = {
     ZM_SUITE_ROW(ZM_FONT_GLUE_SUITE),
     ZM_SUITE_ROW(ZM_LIVE_EFFECT_SUITE),
     ZM_SUITE_ROW(ZM_QUORVEL_PIP_SUITE),
-    ZM_SUITE_ROW(ZM_PLACED_SUITE),
-    ZM_SUITE_ROW(ZM_RASTER_SUITE),
     ZM_SUITE_ROW(ZM_WORKSPACE_SUITE),
     ZM_SUITE_ROW(ZM_HV_BLOCKS_SUITE),
     ZM_SUITE_ROW(ZM_TEXT_FRAME_SUITE),
@@ -176,8 +171,6 @@ constexpr PendingSuiteTable kPendingSuites[] = {
     ZM_SUITE_ROW(ZM_KRX_TEXT_RANGES_ITERATOR_SUITE),
     ZM_SUITE_ROW(ZM_KRX_TEXT_RUNS_ITERATOR_SUITE),
     ZM_SUITE_ROW(ZM_KRX_WORDS_ITERATOR_SUITE),
-    // Optional: a plug-in copes without them, but the host offers them.
-    ZM_SUITE_ROW(ZM_ARM_SUITE),
 };
 
 #undef ZM_SUITE_ROW

@@ -46,6 +46,9 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterDocumentTextResourcesSuite(registry);
     RegisterDataFilterSuite(registry);
     RegisterColorSpaceSuite(registry);
+    RegisterPlacedSuite(registry);
+    RegisterRasterSuite(registry);
+    RegisterARMSuite(registry);
     RegisterPendingSuites(registry);
 }
 

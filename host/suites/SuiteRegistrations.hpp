@@ -46,6 +46,9 @@ void RegisterColorConversionSuite(SuiteRegistry& registry);
 void RegisterDocumentTextResourcesSuite(SuiteRegistry& registry);
 void RegisterDataFilterSuite(SuiteRegistry& registry);
 void RegisterColorSpaceSuite(SuiteRegistry& registry);
+void RegisterPlacedSuite(SuiteRegistry& registry);
+void RegisterRasterSuite(SuiteRegistry& registry);
+void RegisterARMSuite(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host
