@@ -8,14 +8,14 @@ using document::ColorSpaceFamily;
 
 ColorSpaceFamily FamilyOf(PixelModel model) {
     switch (model) {
-    case PixelModel::Gray:
-        return ColorSpaceFamily::Gray;
-    case PixelModel::Rgb:
-        return ColorSpaceFamily::Rgb;
-    case PixelModel::Cmyk:
-        return ColorSpaceFamily::Cmyk;
-    case PixelModel::Lab:
-        return ColorSpaceFamily::Lab;
+        case PixelModel::Gray:
+            return ColorSpaceFamily::Gray;
+        case PixelModel::Rgb:
+            return ColorSpaceFamily::Rgb;
+        case PixelModel::Cmyk:
+            return ColorSpaceFamily::Cmyk;
+        case PixelModel::Lab:
+            return ColorSpaceFamily::Lab;
     }
     return ColorSpaceFamily::Rgb;
 }

@@ -19,8 +19,7 @@ ImageStream ImageStream::OpenBytes(std::span<const uint8_t> bytes) {
         throw ImageDecodeError(ImageFault::Damaged, "no image data");
     }
     // fmemopen never writes in read mode, so the const_cast does not let the bytes change.
-    std::FILE* opened =
-        ::fmemopen(const_cast<uint8_t*>(bytes.data()), bytes.size(), "rb");
+    std::FILE* opened = ::fmemopen(const_cast<uint8_t*>(bytes.data()), bytes.size(), "rb");
     if (opened == nullptr) {
         throw ImageDecodeError(ImageFault::Damaged, "cannot read the image data");
     }

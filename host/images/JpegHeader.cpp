@@ -78,19 +78,19 @@ RasterHeader ReadJpegHeader(std::FILE* stream) {
     header.width = facts.width;
     header.height = facts.height;
     switch (facts.colorSpace) {
-    case JCS_GRAYSCALE:
-        header.model = PixelModel::Gray;
-        break;
-    case JCS_RGB:
-    case JCS_YCbCr:
-        header.model = PixelModel::Rgb;
-        break;
-    case JCS_CMYK:
-    case JCS_YCCK:
-        header.model = PixelModel::Cmyk;
-        break;
-    default:
-        throw ImageDecodeError(ImageFault::Unrecognized, "JPEG: unknown colour space");
+        case JCS_GRAYSCALE:
+            header.model = PixelModel::Gray;
+            break;
+        case JCS_RGB:
+        case JCS_YCbCr:
+            header.model = PixelModel::Rgb;
+            break;
+        case JCS_CMYK:
+        case JCS_YCCK:
+            header.model = PixelModel::Cmyk;
+            break;
+        default:
+            throw ImageDecodeError(ImageFault::Unrecognized, "JPEG: unknown colour space");
     }
     header.bitsPerPixel = facts.components * facts.precision;
     return header;

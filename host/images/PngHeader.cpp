@@ -71,26 +71,26 @@ RasterHeader ReadPngHeader(std::FILE* stream) {
     header.height = facts.height;
     int channels = 1;
     switch (facts.colorType) {
-    case PNG_COLOR_TYPE_GRAY:
-        header.model = PixelModel::Gray;
-        break;
-    case PNG_COLOR_TYPE_GRAY_ALPHA:
-        header.model = PixelModel::Gray;
-        header.alpha = true;
-        channels = 2;
-        break;
-    case PNG_COLOR_TYPE_RGB:
-        channels = 3;
-        break;
-    case PNG_COLOR_TYPE_RGB_ALPHA:
-        header.alpha = true;
-        channels = 4;
-        break;
-    case PNG_COLOR_TYPE_PALETTE:
-        header.indexed = true;
-        break;
-    default:
-        throw ImageDecodeError(ImageFault::Damaged, "PNG: unknown colour type");
+        case PNG_COLOR_TYPE_GRAY:
+            header.model = PixelModel::Gray;
+            break;
+        case PNG_COLOR_TYPE_GRAY_ALPHA:
+            header.model = PixelModel::Gray;
+            header.alpha = true;
+            channels = 2;
+            break;
+        case PNG_COLOR_TYPE_RGB:
+            channels = 3;
+            break;
+        case PNG_COLOR_TYPE_RGB_ALPHA:
+            header.alpha = true;
+            channels = 4;
+            break;
+        case PNG_COLOR_TYPE_PALETTE:
+            header.indexed = true;
+            break;
+        default:
+            throw ImageDecodeError(ImageFault::Damaged, "PNG: unknown colour type");
     }
     header.bitsPerPixel = channels * facts.bitDepth;
     return header;

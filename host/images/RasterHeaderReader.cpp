@@ -48,8 +48,8 @@ RasterHeader ReadRasterHeader(std::FILE* stream) {
 }
 
 RasterHeader ReadRasterHeader(const document::Image& image) {
-    ImageStream stream = image.embedded ? ImageStream::OpenBytes(image.data)
-                                        : ImageStream::OpenFile(image.file);
+    ImageStream stream =
+        image.embedded ? ImageStream::OpenBytes(image.data) : ImageStream::OpenFile(image.file);
     return ReadRasterHeader(stream.Get());
 }
 

@@ -19,7 +19,8 @@ namespace {
 std::FILE* StreamOf(thandle_t handle) { return static_cast<std::FILE*>(handle); }
 
 tmsize_t ReadProc(thandle_t handle, void* buffer, tmsize_t size) {
-    return static_cast<tmsize_t>(std::fread(buffer, 1, static_cast<size_t>(size), StreamOf(handle)));
+    return static_cast<tmsize_t>(
+        std::fread(buffer, 1, static_cast<size_t>(size), StreamOf(handle)));
 }
 
 tmsize_t WriteProc(thandle_t, void*, tmsize_t) { return 0; }
@@ -80,28 +81,29 @@ struct PhotometricModel {
 
 PhotometricModel ModelOf(TIFF* tiff, uint16_t photometric) {
     switch (photometric) {
-    case PHOTOMETRIC_MINISWHITE:
-    case PHOTOMETRIC_MINISBLACK:
-        return {PixelModel::Gray, 1, false};
-    case PHOTOMETRIC_RGB:
-    case PHOTOMETRIC_YCBCR:
-        return {PixelModel::Rgb, 3, false};
-    case PHOTOMETRIC_PALETTE:
-        return {PixelModel::Rgb, 1, true};
-    case PHOTOMETRIC_SEPARATED: {
-        uint16_t inkSet = INKSET_CMYK;
-        TIFFGetFieldDefaulted(tiff, TIFFTAG_INKSET, &inkSet);
-        if (inkSet != INKSET_CMYK) {
-            throw ImageDecodeError(ImageFault::Unrecognized, "TIFF: an ink set other than CMYK");
+        case PHOTOMETRIC_MINISWHITE:
+        case PHOTOMETRIC_MINISBLACK:
+            return {PixelModel::Gray, 1, false};
+        case PHOTOMETRIC_RGB:
+        case PHOTOMETRIC_YCBCR:
+            return {PixelModel::Rgb, 3, false};
+        case PHOTOMETRIC_PALETTE:
+            return {PixelModel::Rgb, 1, true};
+        case PHOTOMETRIC_SEPARATED: {
+            uint16_t inkSet = INKSET_CMYK;
+            TIFFGetFieldDefaulted(tiff, TIFFTAG_INKSET, &inkSet);
+            if (inkSet != INKSET_CMYK) {
+                throw ImageDecodeError(ImageFault::Unrecognized,
+                                       "TIFF: an ink set other than CMYK");
+            }
+            return {PixelModel::Cmyk, 4, false};
         }
-        return {PixelModel::Cmyk, 4, false};
-    }
-    case PHOTOMETRIC_CIELAB:
-    case PHOTOMETRIC_ICCLAB:
-    case PHOTOMETRIC_ITULAB:
-        return {PixelModel::Lab, 3, false};
-    default:
-        throw ImageDecodeError(ImageFault::Unrecognized, "TIFF: unknown photometric");
+        case PHOTOMETRIC_CIELAB:
+        case PHOTOMETRIC_ICCLAB:
+        case PHOTOMETRIC_ITULAB:
+            return {PixelModel::Lab, 3, false};
+        default:
+            throw ImageDecodeError(ImageFault::Unrecognized, "TIFF: unknown photometric");
     }
 }
 
@@ -131,9 +133,9 @@ RasterHeader ReadTiffHeader(std::FILE* stream) {
     TIFFOpenOptionsSetWarningHandlerExtR(options.get(), OnTiffWarning, nullptr);
     // A header never needs much; a damaged one must not make libtiff allocate gigabytes.
     TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), 16 * 1024 * 1024);
-    std::unique_ptr<TIFF, TiffDeleter> tiff(TIFFClientOpenExt(
-        "image", "rm", stream, ReadProc, WriteProc, SeekProc, CloseProc, SizeProc, MapProc,
-        UnmapProc, options.get()));
+    std::unique_ptr<TIFF, TiffDeleter> tiff(
+        TIFFClientOpenExt("image", "rm", stream, ReadProc, WriteProc, SeekProc, CloseProc, SizeProc,
+                          MapProc, UnmapProc, options.get()));
     if (!tiff) {
         Damaged(reason);
     }

@@ -10,14 +10,14 @@ namespace {
 
 ZMRasterColorSpace CodeOf(images::PixelModel model) {
     switch (model) {
-    case images::PixelModel::Gray:
-        return ZM_RASTER_GRAY;
-    case images::PixelModel::Rgb:
-        return ZM_RASTER_RGB;
-    case images::PixelModel::Cmyk:
-        return ZM_RASTER_CMYK;
-    case images::PixelModel::Lab:
-        return ZM_RASTER_LAB;
+        case images::PixelModel::Gray:
+            return ZM_RASTER_GRAY;
+        case images::PixelModel::Rgb:
+            return ZM_RASTER_RGB;
+        case images::PixelModel::Cmyk:
+            return ZM_RASTER_CMYK;
+        case images::PixelModel::Lab:
+            return ZM_RASTER_LAB;
     }
     return ZM_RASTER_UNKNOWN;
 }
@@ -29,8 +29,8 @@ ZMRasterRecord ToRasterRecord(const images::RasterHeader& header) {
     // CheckDescribable has kept both sides and the bits far inside their fields' ranges.
     record.right = static_cast<int32_t>(header.width);
     record.bottom = static_cast<int32_t>(header.height);
-    record.colorSpace =
-        static_cast<ZMRasterColorSpace>(CodeOf(header.model) + (header.alpha ? ZM_RASTER_ALPHA : 0));
+    record.colorSpace = static_cast<ZMRasterColorSpace>(CodeOf(header.model) +
+                                                        (header.alpha ? ZM_RASTER_ALPHA : 0));
     record.bitsPerPixel = static_cast<int16_t>(header.bitsPerPixel);
     return record;
 }

@@ -29,7 +29,7 @@ TEST(RasterHeaderTest, SidesUpToAMillionPixelsAreDescribed) {
 }
 
 TEST(RasterHeaderTest, UpToAHundredMillionPixelsAreDescribed) {
-    EXPECT_EQ(Refusal(10'000, 10'000, 24), std::nullopt);         // exactly 100,000,000
+    EXPECT_EQ(Refusal(10'000, 10'000, 24), std::nullopt);           // exactly 100,000,000
     EXPECT_EQ(Refusal(10'001, 10'000, 24), ImageFault::Oversized);  // 10,000 more
 }
 

@@ -37,9 +37,7 @@ TEST_F(ARMSuiteTest, PlacedAndRasterArtGiveTheirAssetUrl) {
     EXPECT_EQ(UrlOf("embedded"), "https://assets.example/embedded");
 }
 
-TEST_F(ARMSuiteTest, AnImageWithoutAnAssetUrlGivesAnEmptyText) {
-    EXPECT_EQ(UrlOf("square"), "");
-}
+TEST_F(ARMSuiteTest, AnImageWithoutAnAssetUrlGivesAnEmptyText) { EXPECT_EQ(UrlOf("square"), ""); }
 
 TEST_F(ARMSuiteTest, OtherArtIsOfTheWrongTypeAndBadArgumentsAreReported) {
     const char* url = nullptr;

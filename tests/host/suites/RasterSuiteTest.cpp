@@ -116,8 +116,7 @@ TEST_F(RasterSuiteTest, DamagedOrAbsurdImagesAreBadRastersAndLeaveTheRecord) {
     EXPECT_EQ(record, Unset());
     ZMColorSpaceHandle space = nullptr;
     EXPECT_EQ(raster->GetRasterColorSpace(ArtNamed("broken"), &space), ZM_ERR_BAD_RASTER);
-    EXPECT_EQ(raster->GetRasterInfo(LinkedRaster("absurd-width.png"), &record),
-              ZM_ERR_BAD_RASTER);
+    EXPECT_EQ(raster->GetRasterInfo(LinkedRaster("absurd-width.png"), &record), ZM_ERR_BAD_RASTER);
     EXPECT_EQ(record, Unset());
 }
 
