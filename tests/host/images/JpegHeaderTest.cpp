@@ -16,6 +16,12 @@ TEST(JpegHeaderTest, FourComponentsWithAnAdobeMarkerAreCmyk) {
     EXPECT_EQ(ReadFixture(ReadJpegHeader, "cmyk-16x8.jpg"), Header(16, 8, PixelModel::Cmyk, 32));
 }
 
+TEST(JpegHeaderTest, OneComponentIsGrayAndThreeAreRgb) {
+    // 8 bits a component; three components without an Adobe marker are YCbCr, RGB pixels.
+    EXPECT_EQ(ReadFixture(ReadJpegHeader, "gray-9x9.jpg"), Header(9, 9, PixelModel::Gray, 8));
+    EXPECT_EQ(ReadFixture(ReadJpegHeader, "color-8x16.jpg"), Header(8, 16, PixelModel::Rgb, 24));
+}
+
 TEST(JpegHeaderTest, AHeaderCutShortIsDamagedAndNothingExits) {
     // libjpeg's own handler would end the process here.
     EXPECT_EQ(FaultOf(ReadJpegHeader, "truncated.jpg"), ImageFault::Damaged);
