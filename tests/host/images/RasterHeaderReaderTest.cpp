@@ -68,6 +68,44 @@ TEST(RasterHeaderReaderTest, EmbeddedBytesCutShortOrAbsentAreDamaged) {
     EXPECT_EQ(FaultOfImage(Embedded("")), ImageFault::Damaged);
 }
 
+// Reads the bytes as an embedded image; false when anything but a description or an
+// ImageDecodeError comes out.
+bool EndsCleanly(const std::string& bytes) {
+    try {
+        host::images::ReadRasterHeader(Embedded(bytes));
+    } catch (const ImageDecodeError&) {
+    } catch (...) {
+        return false;
+    }
+    return true;
+}
+
+const char* const kEveryFixture[] = {
+    "rgb-640x480.png", "bitmap-1000x1000.png", "rgb16-100x50.png", "palette-4x2.png",
+    "rgba-20x10.png",  "cmyk-16x8.jpg",        "gray-9x9.jpg",     "color-8x16.jpg",
+    "cmyk-3x2.tif",    "palette-5x3.tif",
+};
+
+TEST(RasterHeaderReaderTest, EveryPrefixOfEveryImageEndsCleanly) {
+    for (const char* name : kEveryFixture) {
+        std::string bytes = ReadFileBytes(ImageFixture(name));
+        for (std::size_t length = 0; length <= bytes.size() && length <= 400; ++length) {
+            EXPECT_TRUE(EndsCleanly(bytes.substr(0, length))) << name << " cut at " << length;
+        }
+    }
+}
+
+TEST(RasterHeaderReaderTest, EveryFlippedHeaderByteEndsCleanly) {
+    for (const char* name : kEveryFixture) {
+        std::string bytes = ReadFileBytes(ImageFixture(name));
+        for (std::size_t at = 0; at < bytes.size() && at < 200; ++at) {
+            std::string flipped = bytes;
+            flipped[at] = static_cast<char>(flipped[at] ^ 0xFF);
+            EXPECT_TRUE(EndsCleanly(flipped)) << name << " flipped at " << at;
+        }
+    }
+}
+
 TEST(RasterHeaderReaderTest, ALinkedImageIsReadFromItsFile) {
     host::document::Image image;
     image.file = ImageFixture("palette-5x3.tif");
