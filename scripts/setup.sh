@@ -9,6 +9,7 @@ packages=(
     libicu-dev libpugixml-dev libfmt-dev libcli11-dev libboost-dev
     liblcms2-dev
     libfreetype-dev libfontconfig-dev fonts-dejavu-core
+    fonts-liberation2 fonts-urw-base35
     libgtest-dev libgmock-dev libbenchmark-dev
 )
 missing=()

@@ -46,6 +46,8 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterDocumentTextResourcesSuite(registry);
     RegisterDataFilterSuite(registry);
     RegisterColorSpaceSuite(registry);
+    RegisterFontSuite(registry);
+    RegisterFontGlueSuite(registry);
     RegisterPendingSuites(registry);
 }
 

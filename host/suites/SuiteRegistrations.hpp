@@ -46,6 +46,8 @@ void RegisterColorConversionSuite(SuiteRegistry& registry);
 void RegisterDocumentTextResourcesSuite(SuiteRegistry& registry);
 void RegisterDataFilterSuite(SuiteRegistry& registry);
 void RegisterColorSpaceSuite(SuiteRegistry& registry);
+void RegisterFontSuite(SuiteRegistry& registry);
+void RegisterFontGlueSuite(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host
