@@ -20,6 +20,8 @@ struct FontFacts {
     bool openType = false;  // an sfnt holding CFF outlines
     bool bitmap = false;
     bool type1 = false;
+    // The program has a full name of its own that differs from its PostScript name.
+    bool alternateName = false;
 };
 
 }  // namespace zm::host::fonts

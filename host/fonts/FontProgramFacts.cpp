@@ -132,6 +132,7 @@ FontFacts ReadFontFacts(const FontProgram& program) {
     facts.openType = FT_IS_SFNT(face) && format == "CFF";
     facts.bitmap = !FT_IS_SCALABLE(face);
     facts.type1 = format == "Type 1";
+    facts.alternateName = !facts.fullName.empty() && facts.fullName != facts.postScriptName;
     return facts;
 }
 

@@ -63,7 +63,7 @@ ZMErr ZM_API GetFontInfo(ZMFontKey key, ZMFontInfo* info) {
         info->bitmap = facts.bitmap ? 1 : 0;
         info->type1 = facts.type1 ? 1 : 0;
         info->composite = 0;
-        info->alternateName = !facts.fullName.empty() && facts.fullName != facts.postScriptName;
+        info->alternateName = facts.alternateName ? 1 : 0;
     });
 }
 

@@ -67,7 +67,9 @@ typedef struct ZMFontSuite {
     /* 2: ASCII for installed fonts. A font that is not installed: the family without blanks,
        then "-" and the style unless it is regular ("QwertyuiopSans-Bold"), in UTF-8. */
     ZMErr(ZM_API *GetPostScriptName)(ZMFontKey key, char *buffer, int32_t bufferSize);
-    /* 3: the name to show instead of the PostScript name, in UTF-8 ("Liberation Sans Bold"). */
+    /* 3: the name to show instead of the PostScript name, in UTF-8 ("Liberation Sans Bold").
+       A font that is not installed: its family, a blank and the style in words ("Qwertyuiop
+       Sans Bold"), a name of the host's making, so its info names no alternate name. */
     ZMErr(ZM_API *GetFullName)(ZMFontKey key, char *buffer, int32_t bufferSize);
     /* 4: the family name a Windows system lists the font under, in the Windows code page of
        the font's script: Roman windows-1252, Japanese Shift_JIS (932), Traditional Chinese

@@ -17,6 +17,7 @@ TEST(FontProgramFactsTest, LiberationSansIsATrueTypeRomanFont) {
     EXPECT_EQ(facts.postScriptName, "LiberationSans");  // the regular face names no style
     EXPECT_EQ(facts.windowsName, "Liberation Sans");
     EXPECT_EQ(facts.fullName, "Liberation Sans");
+    EXPECT_TRUE(facts.alternateName);  // "Liberation Sans" is not "LiberationSans"
     EXPECT_EQ(facts.technology, FontTechnology::TrueType);  // glyf outlines
     EXPECT_FALSE(facts.openType);  // an sfnt, but not one with CFF outlines
     EXPECT_FALSE(facts.type1);

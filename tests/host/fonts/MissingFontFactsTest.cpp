@@ -44,6 +44,7 @@ TEST(MissingFontFactsTest, AFontThatIsNotInstalledHasNoTechnologyScriptOrFlags) 
     EXPECT_EQ(facts.script, -1);
     EXPECT_EQ(facts.technology, FontTechnology::Other);
     EXPECT_FALSE(facts.cid || facts.openType || facts.bitmap || facts.type1);
+    EXPECT_FALSE(facts.alternateName);  // its full name is the host's making, not the font's
 }
 
 }  // namespace

@@ -81,6 +81,7 @@ TEST_F(FontSuiteTest, AFamilyNoFontHasIsNotInstalled) {
     EXPECT_EQ(Name(fonts->GetPostScriptName, key), "QwertyuiopSans-Bold");
     EXPECT_EQ(Name(fonts->GetWindowsName, key), "Qwertyuiop Sans");
     EXPECT_EQ(Name(fonts->GetFullName, key), "Qwertyuiop Sans Bold");
+    EXPECT_EQ(info.alternateName, 0);  // a name the host made up is no name of the font's
 }
 
 TEST_F(FontSuiteTest, TheSameRequestTwiceGivesTheSameKey) {
