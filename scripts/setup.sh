@@ -10,6 +10,7 @@ packages=(
     liblcms2-dev
     libpng-dev libjpeg62-turbo-dev libtiff-dev
     libfreetype-dev libfontconfig-dev fonts-dejavu-core
+    fonts-liberation2 fonts-urw-base35
     libgtest-dev libgmock-dev libbenchmark-dev
 )
 missing=()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fonts/FontCatalogue.hpp"
 #include "loader/PluginManager.hpp"
 #include "localization/Localizer.hpp"
 #include "registry/SuiteRegistry.hpp"
@@ -65,6 +66,7 @@ public:
     HostObjects objects;  // what plug-ins hold by handle and give back
     ProgressDisplay progress;
     DialogAnswers dialogs;
+    fonts::FontCatalogue fonts;
     DataFilters dataFilters{blocks};  // after `blocks`, so it goes first: its handles are blocks
     // Last, so that plug-ins still loaded are stopped while everything else still exists.
     PluginManager plugins;

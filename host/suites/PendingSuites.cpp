@@ -32,7 +32,6 @@
 #include <zelmora/ZMDocumentSuite.h>
 #include <zelmora/ZMFOConversionSuite.h>
 #include <zelmora/ZMFilePathSuite.h>
-#include <zelmora/ZMFontSuite.h>
 #include <zelmora/ZMGradientSuite.h>
 #include <zelmora/ZMGraphSuite.h>
 #include <zelmora/ZMLayerSuite.h>
@@ -77,8 +76,6 @@ struct PendingSuiteTable {
 constexpr PendingSuiteTable kPendingSuites[] = {
     ZM_SUITE_ROW(ZM_CHARACTER_ENCODING_SUITE),
     ZM_SUITE_ROW(ZM_DEV_UTILS_SUITE),
-    ZM_SUITE_ROW(ZM_FONT_SUITE),
-    ZM_SUITE_ROW(ZM_FONT_GLUE_SUITE),
     ZM_SUITE_ROW(ZM_LIVE_EFFECT_SUITE),
     ZM_SUITE_ROW(ZM_QUORVEL_PIP_SUITE),
     ZM_SUITE_ROW(ZM_WORKSPACE_SUITE),

@@ -49,6 +49,8 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterPlacedSuite(registry);
     RegisterRasterSuite(registry);
     RegisterARMSuite(registry);
+    RegisterFontSuite(registry);
+    RegisterFontGlueSuite(registry);
     RegisterPendingSuites(registry);
 }
 

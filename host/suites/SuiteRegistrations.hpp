@@ -49,6 +49,8 @@ void RegisterColorSpaceSuite(SuiteRegistry& registry);
 void RegisterPlacedSuite(SuiteRegistry& registry);
 void RegisterRasterSuite(SuiteRegistry& registry);
 void RegisterARMSuite(SuiteRegistry& registry);
+void RegisterFontSuite(SuiteRegistry& registry);
+void RegisterFontGlueSuite(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host
