@@ -1,12 +1,13 @@
 #include "support/CommandRun.hpp"
 #include "support/FileBytes.hpp"
+#include "support/ReportHeading.hpp"
 #include "support/ScratchFolder.hpp"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
-#include <regex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,15 +22,12 @@ constexpr int kExitNotWritten = 1;
 // The report without its heading line, whose date is the clock's: the heading is "Document
 // Info - ", asctime's 24 characters and "\n", then "\r\n" and the file's own line end.
 std::string AfterHeading(const std::string& report) {
-    static const std::regex heading(
-        "^Document Info - [A-Z][a-z]{2} [A-Z][a-z]{2} [ 0-3][0-9] [0-2][0-9]:[0-5][0-9]:"
-        "[0-6][0-9] [0-9]{4}\n\r\n\r\n");
-    std::smatch match;
-    if (!std::regex_search(report, match, heading)) {
+    std::optional<std::string> rest = AfterReportHeading(report, "\r\n");
+    if (!rest) {
         ADD_FAILURE() << "no heading of the expected form in: " << report.substr(0, 60);
         return {};
     }
-    return report.substr(static_cast<std::size_t>(match.length()));
+    return *rest;
 }
 
 class DocInfoReportTest : public ::testing::Test {

@@ -1,6 +1,7 @@
 #include "plugins/tolvane/PluginUnitFixture.hpp"
 #include "plugins/tolvane/report/ExpectedLines.hpp"
 #include "plugins/tolvane/report/ExpectedSections.hpp"
+#include "support/ReportHeading.hpp"
 
 #include <document/Document.hpp>
 #include <report/ReportAssembly.hpp>
@@ -10,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-#include <regex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -66,16 +67,12 @@ protected:
     // can be compared byte for byte. asctime writes "Www Mmm dd hh:mm:ss yyyy\n" (24
     // characters and its own line end); the heading adds "\r\n" and the file one more.
     static std::string WithoutHeading(const std::string& text, const std::string& after) {
-        static const std::regex heading(
-            "^Document Info - [A-Z][a-z]{2} [A-Z][a-z]{2} [ 0-3][0-9] [0-2][0-9]:[0-5][0-9]:"
-            "[0-6][0-9] [0-9]{4}\n\r\n");
-        std::smatch match;
-        if (!std::regex_search(text, match, heading) ||
-            text.compare(match.length(), after.size(), after) != 0) {
+        std::optional<std::string> rest = AfterReportHeading(text, after);
+        if (!rest) {
             ADD_FAILURE() << "no heading of the expected form in: " << text.substr(0, 60);
             return {};
         }
-        return text.substr(static_cast<std::size_t>(match.length()) + after.size());
+        return *rest;
     }
 
     tolvane::ReportText report;
