@@ -1,56 +1,34 @@
 #pragma once
 
-#include "plugins/tolvane/PluginUnitFixture.hpp"
-
-#include <document/ArtLookup.hpp>
-#include <importers/DocumentImport.hpp>
+#include "plugins/tolvane/SurveyFixture.hpp"
 
 #include <panel/PanelCategories.hpp>
 #include <report/HostString.hpp>
-#include <shell/Globals.hpp>
 #include <shell/SuiteSet.hpp>
-#include <survey/SurveyRecord.hpp>
 
 #include <gtest/gtest.h>
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace zm::test {
 
-// The inventories over a real host: a survey record made as the panel makes it, a globals
-// block showing one category (Objects unless a test chooses), and a document opened from
-// tests/fixtures/svg/inventory by the host's importer. Art is found by its SVG id.
-class InventoryFixture : public PluginUnitFixture {
+// The inventories over a real host, showing one category (Objects unless a test chooses),
+// on documents of tests/fixtures/svg/inventory.
+class InventoryFixture : public SurveyFixture {
 protected:
     void SetUp() override {
-        PluginUnitFixture::SetUp();
-        tolvane::InitializeGlobals(globals);
+        SurveyFixture::SetUp();
         globals.mode = tolvane::kModeObjects;
-        tolvane::gGlobals = &globals;
-        ASSERT_EQ(tolvane::MakeSurvey(), ZM_ERR_NONE);
     }
 
-    void TearDown() override {
-        tolvane::FreeSurvey();
-        tolvane::gGlobals = nullptr;
+    void ExpectNothingLeft() override {
         EXPECT_EQ(runtime.blocks.LiveBlocks(), 0u) << "a list node was not given back";
-        PluginUnitFixture::TearDown();
     }
 
-    void Import(const std::string& fixture) {
-        document = &Open(
-            host::ImportDocument(std::string(ZELMORA_TEST_FIXTURES) + "/svg/inventory/" + fixture));
-    }
+    void Import(const std::string& fixture) { document = &OpenFixture("inventory", fixture); }
 
-    ZMArtHandle Art(const std::string& id) {
-        host::document::Art* art = host::document::FindArtById(*document, id);
-        if (art == nullptr) {
-            throw std::runtime_error("no art with id " + id);
-        }
-        return reinterpret_cast<ZMArtHandle>(art);
-    }
+    ZMArtHandle Art(const std::string& id) { return Handle(id); }
 
     ZMPathStyle PaintOf(const std::string& id) {
         ZMPathStyle style{};
@@ -80,9 +58,6 @@ protected:
         return entries;
     }
 
-    tolvane::SurveyRecord& Record() { return tolvane::gSurvey->record; }
-    tolvane::SurveyLists& Lists() { return tolvane::gSurvey->lists; }
-
     // The six colour-model counters in the order RGB, CMYK, grayscale, spot, pattern,
     // gradient.
     std::vector<int32_t> ModelCounters() {
@@ -108,7 +83,6 @@ protected:
         return texts;
     }
 
-    tolvane::Globals globals{};
     host::document::Document* document = nullptr;
 };
 

@@ -1,4 +1,4 @@
-#include "plugins/tolvane/PluginUnitFixture.hpp"
+#include "plugins/tolvane/SurveyFixture.hpp"
 #include "plugins/tolvane/report/ExpectedLines.hpp"
 #include "plugins/tolvane/report/ExpectedSections.hpp"
 
@@ -76,19 +76,13 @@ std::vector<Line> Section(const std::string& paths,
     return lines;
 }
 
-class ObjectsSectionTest : public zm::test::PluginUnitFixture {
+class ObjectsSectionTest : public zm::test::SurveyFixture {
 protected:
-    void SetUp() override {
-        PluginUnitFixture::SetUp();
-        ASSERT_EQ(tolvane::MakeSurvey(), ZM_ERR_NONE);
-    }
-
     // The texts and the survey go back to the host while its suites are still held.
     void TearDown() override {
         report = tolvane::ReportText{};
-        tolvane::FreeSurvey();
         runtime.faults.Clear();
-        PluginUnitFixture::TearDown();
+        SurveyFixture::TearDown();
     }
 
     // The length is shown in the unit of the current document's rulers.
@@ -97,8 +91,6 @@ protected:
         document->rulerUnits = units;
         Open(std::move(document));
     }
-
-    tolvane::SurveyRecord& Record() { return tolvane::gSurvey->record; }
 
     // Ten paths, three open, 42 points, 100 pt long.
     void TenPaths() {
