@@ -17,6 +17,7 @@
 #include <zelmora/KRXTextFrameSuites.h>
 #include <zelmora/KRXTextRangeSuites.h>
 #include <zelmora/KRXTextResourcesSuites.h>
+#include <zelmora/KRXTypes.h>
 #include <zelmora/PXMBasicSuite.h>
 #include <zelmora/ZMARMSuite.h>
 #include <zelmora/ZMArtStyleSuite.h>

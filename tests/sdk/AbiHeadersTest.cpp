@@ -18,6 +18,7 @@
 #include <zelmora/KRXTextFrameSuites.h>
 #include <zelmora/KRXTextRangeSuites.h>
 #include <zelmora/KRXTextResourcesSuites.h>
+#include <zelmora/KRXTypes.h>
 #include <zelmora/PXMBasicSuite.h>
 #include <zelmora/ZMARMSuite.h>
 #include <zelmora/ZMArtStyleSuite.h>
@@ -101,6 +102,14 @@ static_assert(offsetof(ZMPathStyle, fill) == 8);
 static_assert(sizeof(ZMMatchCriterion) == 12);
 static_assert(offsetof(ZMMatchCriterion, mask) == 4);
 static_assert(offsetof(ZMMatchCriterion, value) == 8);
+
+// Text engine and foreign-object records.
+static_assert(sizeof(KRXRealMatrix) == 48);
+static_assert(offsetof(ZMFOContentItem, value) == 8);
+static_assert(sizeof(ZMFOContentItem) == 16);
+static_assert(offsetof(KRXArrayFontRefSuite, Item) == 6 * 8);
+static_assert(offsetof(KRXCharInspectorSuite, GetStrokeColor) == 5 * 8);
+static_assert(offsetof(ZMFontSuite, FontKeyFromKRXFont) == 5 * 8);
 
 static_assert(offsetof(ZMNotifierMessage, notifier) == 32);
 static_assert(offsetof(ZMNotifierMessage, type) == 40);

@@ -20,8 +20,8 @@ const void* sDevUtilsSuite = nullptr;
 const ZMDictionarySuite* sDictionarySuite = nullptr;
 const ZMDocumentSuite* sDocumentSuite = nullptr;
 const ZMFilePathSuite* sFilePathSuite = nullptr;
-const void* sFontSuite = nullptr;
-const void* sFontGlueSuite = nullptr;
+const ZMFontSuite* sFontSuite = nullptr;
+const ZMFontGlueSuite* sFontGlueSuite = nullptr;
 const ZMGradientSuite* sGradientSuite = nullptr;
 const ZMGraphSuite* sGraphSuite = nullptr;
 const ZMLayerSuite* sLayerSuite = nullptr;
@@ -36,10 +36,10 @@ const ZMPathSuite* sPathSuite = nullptr;
 const ZMPathStyleSuite* sPathStyleSuite = nullptr;
 const ZMPatternSuite* sPatternSuite = nullptr;
 const void* sQuorvelPipSuite = nullptr;
-const void* sPlacedSuite = nullptr;
+const ZMPlacedSuite* sPlacedSuite = nullptr;
 const ZMPluginGroupSuite* sPluginGroupSuite = nullptr;
 const ZMPreferenceSuite* sPreferenceSuite = nullptr;
-const void* sRasterSuite = nullptr;
+const ZMRasterSuite* sRasterSuite = nullptr;
 const ZMSymbolSuite* sSymbolSuite = nullptr;
 const ZMUserSuite* sUserSuite = nullptr;
 const void* sWorkspaceSuite = nullptr;
@@ -50,14 +50,14 @@ const ZMUnicodeStringSuite* sUnicodeStringSuite = nullptr;
 const ZMColorSpaceSuite* sColorSpaceSuite = nullptr;
 const ZMStringFormatUtilsSuite* sStringFormatUtilsSuite = nullptr;
 const void* sHvBlocksSuite = nullptr;
-const void* sTextFrameSuite = nullptr;
-const void* sFoConversionSuite = nullptr;
+const ZMTextFrameSuite* sTextFrameSuite = nullptr;
+const ZMFOConversionSuite* sFoConversionSuite = nullptr;
 const ZMContextSuite* sContextSuite = nullptr;
 const void* sLiveCornersSuite = nullptr;
 const void* sRealMathSuite = nullptr;
 const void* sCountedObjectSuite = nullptr;
-const void* sZmkrxPaintSuite = nullptr;
-const void* sKrxApplicationPaintSuite = nullptr;
+const ZMKRXPaintSuite* sZmkrxPaintSuite = nullptr;
+const KRXApplicationPaintSuite* sKrxApplicationPaintSuite = nullptr;
 const void* sKrxCompFontSuite = nullptr;
 const void* sKrxCompFontClassSuite = nullptr;
 const void* sKrxCompFontClassSetSuite = nullptr;
@@ -67,7 +67,7 @@ const void* sKrxGlyphRunSuite = nullptr;
 const void* sKrxGlyphRunsIteratorSuite = nullptr;
 const void* sKrxMojiKumiSuite = nullptr;
 const void* sKrxMojiKumiSetSuite = nullptr;
-const void* sKrxTextFrameSuite = nullptr;
+const KRXTextFrameSuite* sKrxTextFrameSuite = nullptr;
 const void* sKrxTextFramesIteratorSuite = nullptr;
 const void* sKrxTextLineSuite = nullptr;
 const void* sKrxTextLinesIteratorSuite = nullptr;
@@ -75,8 +75,8 @@ const void* sKrxTextResourcesSuite = nullptr;
 const void* sKrxApplicationTextResourcesSuite = nullptr;
 const KRXDocumentTextResourcesSuite* sKrxDocumentTextResourcesSuite = nullptr;
 const void* sKrxVersionInfoSuite = nullptr;
-const void* sKrxArrayApplicationPaintRefSuite = nullptr;
-const void* sKrxArrayRealSuite = nullptr;
+const KRXArrayApplicationPaintRefSuite* sKrxArrayApplicationPaintRefSuite = nullptr;
+const KRXArrayRealSuite* sKrxArrayRealSuite = nullptr;
 const void* sKrxArrayBoolSuite = nullptr;
 const void* sKrxArrayIntegerSuite = nullptr;
 const void* sKrxArrayLineCapTypeSuite = nullptr;
@@ -101,7 +101,7 @@ const void* sKrxArrayMojiKumiRefSuite = nullptr;
 const void* sKrxArrayMojiKumiSetRefSuite = nullptr;
 const void* sKrxArrayTabStopsRefSuite = nullptr;
 const void* sKrxArrayLeadingTypeSuite = nullptr;
-const void* sKrxArrayFontRefSuite = nullptr;
+const KRXArrayFontRefSuite* sKrxArrayFontRefSuite = nullptr;
 const void* sKrxArrayGlyphIdSuite = nullptr;
 const void* sKrxArrayRealPointSuite = nullptr;
 const void* sKrxArrayRealMatrixSuite = nullptr;
@@ -113,12 +113,12 @@ const void* sKrxArrayDirOverrideSuite = nullptr;
 const void* sKrxArrayDigitSetSuite = nullptr;
 const void* sKrxArrayDiacVPosSuite = nullptr;
 const void* sKrxCharFeaturesSuite = nullptr;
-const void* sKrxCharInspectorSuite = nullptr;
+const KRXCharInspectorSuite* sKrxCharInspectorSuite = nullptr;
 const void* sKrxCharStyleSuite = nullptr;
 const void* sKrxCharStylesSuite = nullptr;
 const void* sKrxCharStylesIteratorSuite = nullptr;
 const void* sKrxFindSuite = nullptr;
-const void* sKrxFontSuite = nullptr;
+const KRXFontSuite* sKrxFontSuite = nullptr;
 const void* sKrxGlyphSuite = nullptr;
 const void* sKrxGlyphsSuite = nullptr;
 const void* sKrxGlyphsIteratorSuite = nullptr;
@@ -137,7 +137,7 @@ const void* sKrxStorySuite = nullptr;
 const void* sKrxTabStopSuite = nullptr;
 const void* sKrxTabStopsSuite = nullptr;
 const void* sKrxTabStopsIteratorSuite = nullptr;
-const void* sKrxTextRangeSuite = nullptr;
+const KRXTextRangeSuite* sKrxTextRangeSuite = nullptr;
 const void* sKrxTextRangesSuite = nullptr;
 const void* sKrxTextRangesIteratorSuite = nullptr;
 const void* sKrxTextRunsIteratorSuite = nullptr;
@@ -172,8 +172,8 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_DICTIONARY_SUITE_NAME, ZM_DICTIONARY_SUITE_VERSION, Target(&sDictionarySuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_DOCUMENT_SUITE_NAME, ZM_DOCUMENT_SUITE_VERSION, Target(&sDocumentSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_FILE_PATH_SUITE_NAME, ZM_FILE_PATH_SUITE_VERSION, Target(&sFilePathSuite)},
-    {ZM_SUITE_KIND_REQUIRED, ZM_FONT_SUITE_NAME, ZM_FONT_SUITE_VERSION, &sFontSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_FONT_GLUE_SUITE_NAME, ZM_FONT_GLUE_SUITE_VERSION, &sFontGlueSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_FONT_SUITE_NAME, ZM_FONT_SUITE_VERSION, Target(&sFontSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_FONT_GLUE_SUITE_NAME, ZM_FONT_GLUE_SUITE_VERSION, Target(&sFontGlueSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_GRADIENT_SUITE_NAME, ZM_GRADIENT_SUITE_VERSION, Target(&sGradientSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_GRAPH_SUITE_NAME, ZM_GRAPH_SUITE_VERSION, Target(&sGraphSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_LAYER_SUITE_NAME, ZM_LAYER_SUITE_VERSION, Target(&sLayerSuite)},
@@ -188,10 +188,10 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_PATH_STYLE_SUITE_NAME, ZM_PATH_STYLE_SUITE_VERSION, Target(&sPathStyleSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_PATTERN_SUITE_NAME, ZM_PATTERN_SUITE_VERSION, Target(&sPatternSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_QUORVEL_PIP_SUITE_NAME, ZM_QUORVEL_PIP_SUITE_VERSION, &sQuorvelPipSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_PLACED_SUITE_NAME, ZM_PLACED_SUITE_VERSION, &sPlacedSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_PLACED_SUITE_NAME, ZM_PLACED_SUITE_VERSION, Target(&sPlacedSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_PLUGIN_GROUP_SUITE_NAME, ZM_PLUGIN_GROUP_SUITE_VERSION, Target(&sPluginGroupSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_PREFERENCE_SUITE_NAME, ZM_PREFERENCE_SUITE_VERSION, Target(&sPreferenceSuite)},
-    {ZM_SUITE_KIND_REQUIRED, ZM_RASTER_SUITE_NAME, ZM_RASTER_SUITE_VERSION, &sRasterSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_RASTER_SUITE_NAME, ZM_RASTER_SUITE_VERSION, Target(&sRasterSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_SYMBOL_SUITE_NAME, ZM_SYMBOL_SUITE_VERSION, Target(&sSymbolSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_USER_SUITE_NAME, ZM_USER_SUITE_VERSION, Target(&sUserSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_WORKSPACE_SUITE_NAME, ZM_WORKSPACE_SUITE_VERSION, &sWorkspaceSuite},
@@ -202,14 +202,14 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_COLOR_SPACE_SUITE_NAME, ZM_COLOR_SPACE_SUITE_VERSION, Target(&sColorSpaceSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_STRING_FORMAT_UTILS_SUITE_NAME, ZM_STRING_FORMAT_UTILS_SUITE_VERSION, Target(&sStringFormatUtilsSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_HV_BLOCKS_SUITE_NAME, ZM_HV_BLOCKS_SUITE_VERSION, &sHvBlocksSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_TEXT_FRAME_SUITE_NAME, ZM_TEXT_FRAME_SUITE_VERSION, &sTextFrameSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_FO_CONVERSION_SUITE_NAME, ZM_FO_CONVERSION_SUITE_VERSION, &sFoConversionSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_TEXT_FRAME_SUITE_NAME, ZM_TEXT_FRAME_SUITE_VERSION, Target(&sTextFrameSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_FO_CONVERSION_SUITE_NAME, ZM_FO_CONVERSION_SUITE_VERSION, Target(&sFoConversionSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_CONTEXT_SUITE_NAME, ZM_CONTEXT_SUITE_VERSION, Target(&sContextSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_LIVE_CORNERS_SUITE_NAME, ZM_LIVE_CORNERS_SUITE_VERSION, &sLiveCornersSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_REAL_MATH_SUITE_NAME, ZM_REAL_MATH_SUITE_VERSION, &sRealMathSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_COUNTED_OBJECT_SUITE_NAME, ZM_COUNTED_OBJECT_SUITE_VERSION, &sCountedObjectSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_ZMKRX_PAINT_SUITE_NAME, ZM_ZMKRX_PAINT_SUITE_VERSION, &sZmkrxPaintSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_APPLICATION_PAINT_SUITE_NAME, ZM_KRX_APPLICATION_PAINT_SUITE_VERSION, &sKrxApplicationPaintSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_ZMKRX_PAINT_SUITE_NAME, ZM_ZMKRX_PAINT_SUITE_VERSION, Target(&sZmkrxPaintSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_APPLICATION_PAINT_SUITE_NAME, ZM_KRX_APPLICATION_PAINT_SUITE_VERSION, Target(&sKrxApplicationPaintSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_COMP_FONT_SUITE_NAME, ZM_KRX_COMP_FONT_SUITE_VERSION, &sKrxCompFontSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_COMP_FONT_CLASS_SUITE_NAME, ZM_KRX_COMP_FONT_CLASS_SUITE_VERSION, &sKrxCompFontClassSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_COMP_FONT_CLASS_SET_SUITE_NAME, ZM_KRX_COMP_FONT_CLASS_SET_SUITE_VERSION, &sKrxCompFontClassSetSuite},
@@ -219,7 +219,7 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_GLYPH_RUNS_ITERATOR_SUITE_NAME, ZM_KRX_GLYPH_RUNS_ITERATOR_SUITE_VERSION, &sKrxGlyphRunsIteratorSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_MOJI_KUMI_SUITE_NAME, ZM_KRX_MOJI_KUMI_SUITE_VERSION, &sKrxMojiKumiSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_MOJI_KUMI_SET_SUITE_NAME, ZM_KRX_MOJI_KUMI_SET_SUITE_VERSION, &sKrxMojiKumiSetSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_FRAME_SUITE_NAME, ZM_KRX_TEXT_FRAME_SUITE_VERSION, &sKrxTextFrameSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_FRAME_SUITE_NAME, ZM_KRX_TEXT_FRAME_SUITE_VERSION, Target(&sKrxTextFrameSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_FRAMES_ITERATOR_SUITE_NAME, ZM_KRX_TEXT_FRAMES_ITERATOR_SUITE_VERSION, &sKrxTextFramesIteratorSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_LINE_SUITE_NAME, ZM_KRX_TEXT_LINE_SUITE_VERSION, &sKrxTextLineSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_LINES_ITERATOR_SUITE_NAME, ZM_KRX_TEXT_LINES_ITERATOR_SUITE_VERSION, &sKrxTextLinesIteratorSuite},
@@ -227,8 +227,8 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_APPLICATION_TEXT_RESOURCES_SUITE_NAME, ZM_KRX_APPLICATION_TEXT_RESOURCES_SUITE_VERSION, &sKrxApplicationTextResourcesSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_DOCUMENT_TEXT_RESOURCES_SUITE_NAME, ZM_KRX_DOCUMENT_TEXT_RESOURCES_SUITE_VERSION, Target(&sKrxDocumentTextResourcesSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_VERSION_INFO_SUITE_NAME, ZM_KRX_VERSION_INFO_SUITE_VERSION, &sKrxVersionInfoSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_APPLICATION_PAINT_REF_SUITE_NAME, ZM_KRX_ARRAY_APPLICATION_PAINT_REF_SUITE_VERSION, &sKrxArrayApplicationPaintRefSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_REAL_SUITE_NAME, ZM_KRX_ARRAY_REAL_SUITE_VERSION, &sKrxArrayRealSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_APPLICATION_PAINT_REF_SUITE_NAME, ZM_KRX_ARRAY_APPLICATION_PAINT_REF_SUITE_VERSION, Target(&sKrxArrayApplicationPaintRefSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_REAL_SUITE_NAME, ZM_KRX_ARRAY_REAL_SUITE_VERSION, Target(&sKrxArrayRealSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_BOOL_SUITE_NAME, ZM_KRX_ARRAY_BOOL_SUITE_VERSION, &sKrxArrayBoolSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_INTEGER_SUITE_NAME, ZM_KRX_ARRAY_INTEGER_SUITE_VERSION, &sKrxArrayIntegerSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_LINE_CAP_TYPE_SUITE_NAME, ZM_KRX_ARRAY_LINE_CAP_TYPE_SUITE_VERSION, &sKrxArrayLineCapTypeSuite},
@@ -253,7 +253,7 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_MOJI_KUMI_SET_REF_SUITE_NAME, ZM_KRX_ARRAY_MOJI_KUMI_SET_REF_SUITE_VERSION, &sKrxArrayMojiKumiSetRefSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_TAB_STOPS_REF_SUITE_NAME, ZM_KRX_ARRAY_TAB_STOPS_REF_SUITE_VERSION, &sKrxArrayTabStopsRefSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_LEADING_TYPE_SUITE_NAME, ZM_KRX_ARRAY_LEADING_TYPE_SUITE_VERSION, &sKrxArrayLeadingTypeSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_FONT_REF_SUITE_NAME, ZM_KRX_ARRAY_FONT_REF_SUITE_VERSION, &sKrxArrayFontRefSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_FONT_REF_SUITE_NAME, ZM_KRX_ARRAY_FONT_REF_SUITE_VERSION, Target(&sKrxArrayFontRefSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_GLYPH_ID_SUITE_NAME, ZM_KRX_ARRAY_GLYPH_ID_SUITE_VERSION, &sKrxArrayGlyphIdSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_REAL_POINT_SUITE_NAME, ZM_KRX_ARRAY_REAL_POINT_SUITE_VERSION, &sKrxArrayRealPointSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_REAL_MATRIX_SUITE_NAME, ZM_KRX_ARRAY_REAL_MATRIX_SUITE_VERSION, &sKrxArrayRealMatrixSuite},
@@ -265,12 +265,12 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_DIGIT_SET_SUITE_NAME, ZM_KRX_ARRAY_DIGIT_SET_SUITE_VERSION, &sKrxArrayDigitSetSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_ARRAY_DIAC_V_POS_SUITE_NAME, ZM_KRX_ARRAY_DIAC_V_POS_SUITE_VERSION, &sKrxArrayDiacVPosSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_CHAR_FEATURES_SUITE_NAME, ZM_KRX_CHAR_FEATURES_SUITE_VERSION, &sKrxCharFeaturesSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_CHAR_INSPECTOR_SUITE_NAME, ZM_KRX_CHAR_INSPECTOR_SUITE_VERSION, &sKrxCharInspectorSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_CHAR_INSPECTOR_SUITE_NAME, ZM_KRX_CHAR_INSPECTOR_SUITE_VERSION, Target(&sKrxCharInspectorSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_CHAR_STYLE_SUITE_NAME, ZM_KRX_CHAR_STYLE_SUITE_VERSION, &sKrxCharStyleSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_CHAR_STYLES_SUITE_NAME, ZM_KRX_CHAR_STYLES_SUITE_VERSION, &sKrxCharStylesSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_CHAR_STYLES_ITERATOR_SUITE_NAME, ZM_KRX_CHAR_STYLES_ITERATOR_SUITE_VERSION, &sKrxCharStylesIteratorSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_FIND_SUITE_NAME, ZM_KRX_FIND_SUITE_VERSION, &sKrxFindSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_FONT_SUITE_NAME, ZM_KRX_FONT_SUITE_VERSION, &sKrxFontSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_FONT_SUITE_NAME, ZM_KRX_FONT_SUITE_VERSION, Target(&sKrxFontSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_GLYPH_SUITE_NAME, ZM_KRX_GLYPH_SUITE_VERSION, &sKrxGlyphSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_GLYPHS_SUITE_NAME, ZM_KRX_GLYPHS_SUITE_VERSION, &sKrxGlyphsSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_GLYPHS_ITERATOR_SUITE_NAME, ZM_KRX_GLYPHS_ITERATOR_SUITE_VERSION, &sKrxGlyphsIteratorSuite},
@@ -289,7 +289,7 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TAB_STOP_SUITE_NAME, ZM_KRX_TAB_STOP_SUITE_VERSION, &sKrxTabStopSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TAB_STOPS_SUITE_NAME, ZM_KRX_TAB_STOPS_SUITE_VERSION, &sKrxTabStopsSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TAB_STOPS_ITERATOR_SUITE_NAME, ZM_KRX_TAB_STOPS_ITERATOR_SUITE_VERSION, &sKrxTabStopsIteratorSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_RANGE_SUITE_NAME, ZM_KRX_TEXT_RANGE_SUITE_VERSION, &sKrxTextRangeSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_RANGE_SUITE_NAME, ZM_KRX_TEXT_RANGE_SUITE_VERSION, Target(&sKrxTextRangeSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_RANGES_SUITE_NAME, ZM_KRX_TEXT_RANGES_SUITE_VERSION, &sKrxTextRangesSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_RANGES_ITERATOR_SUITE_NAME, ZM_KRX_TEXT_RANGES_ITERATOR_SUITE_VERSION, &sKrxTextRangesIteratorSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_TEXT_RUNS_ITERATOR_SUITE_NAME, ZM_KRX_TEXT_RUNS_ITERATOR_SUITE_VERSION, &sKrxTextRunsIteratorSuite},

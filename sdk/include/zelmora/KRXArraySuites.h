@@ -1,5 +1,7 @@
 #pragma once
 /* Text-engine arrays: the typed value arrays that text features are read and written through. */
+#include "KRXTypes.h"
+#include "ZMArtTypes.h"
 #include "ZMTypes.h"
 
 #ifdef __cplusplus
@@ -117,6 +119,69 @@ extern "C" {
 
 #define ZM_KRX_ARRAY_DIAC_V_POS_SUITE_NAME    "KRX ArrayDiacVPos Suite"
 #define ZM_KRX_ARRAY_DIAC_V_POS_SUITE_VERSION 1
+
+
+/* Every array suite has the same entries over its own item type. An array is a counted
+   object: the one an entry hands out is a new reference, given back with Release. An item
+   that is itself a reference is held by the array: Item, GetFirst and GetLast lend it for as
+   long as the array lives, and Append takes a reference of its own. An index outside
+   0..size-1, GetFirst or GetLast of an empty array, and a reference the host never gave out
+   are ZM_ERR_BAD_ARGUMENT. */
+#define KRX_ARRAY_SUITE(Name, ItemType)                                                    \
+    typedef struct KRXArray##Name##Opaque *KRXArray##Name##Ref;                            \
+    typedef struct KRXArray##Name##Suite {                                                 \
+        /* 0: a new, empty array */                                                        \
+        ZMErr(ZM_API *Create)(KRXArray##Name##Ref * array);                                \
+        /* 1 */ ZMErr(ZM_API *AddRef)(KRXArray##Name##Ref array);                          \
+        /* 2 */ ZMErr(ZM_API *Release)(KRXArray##Name##Ref array);                         \
+        /* 3 */ ZMErr(ZM_API *GetSize)(KRXArray##Name##Ref array, int32_t * size);         \
+        /* 4 */ ZMErr(ZM_API *GetFirst)(KRXArray##Name##Ref array, ItemType * item);       \
+        /* 5 */ ZMErr(ZM_API *GetLast)(KRXArray##Name##Ref array, ItemType * item);        \
+        /* 6 */ ZMErr(ZM_API *Item)(KRXArray##Name##Ref array, int32_t index, ItemType * item); \
+        /* 7: adds the item at the end */                                                  \
+        ZMErr(ZM_API *Append)(KRXArray##Name##Ref array, ItemType item);                   \
+    } KRXArray##Name##Suite;
+
+/* Enumerated text features are 32-bit codes. */
+typedef int32_t KRXEnumValue;
+
+KRX_ARRAY_SUITE(ApplicationPaintRef, KRXApplicationPaintRef)
+KRX_ARRAY_SUITE(Real, double)
+KRX_ARRAY_SUITE(Bool, uint8_t)
+KRX_ARRAY_SUITE(Integer, int32_t)
+KRX_ARRAY_SUITE(LineCapType, KRXEnumValue)
+KRX_ARRAY_SUITE(FigureStyle, KRXEnumValue)
+KRX_ARRAY_SUITE(LineJoinType, KRXEnumValue)
+KRX_ARRAY_SUITE(WariChuJustification, KRXEnumValue)
+KRX_ARRAY_SUITE(StyleRunAlignment, KRXEnumValue)
+KRX_ARRAY_SUITE(AutoKernType, KRXEnumValue)
+KRX_ARRAY_SUITE(BaselineDirection, KRXEnumValue)
+KRX_ARRAY_SUITE(Language, KRXEnumValue)
+KRX_ARRAY_SUITE(FontCapsOption, KRXEnumValue)
+KRX_ARRAY_SUITE(FontBaselineOption, KRXEnumValue)
+KRX_ARRAY_SUITE(FontOpenTypePositionOption, KRXEnumValue)
+KRX_ARRAY_SUITE(UnderlinePosition, KRXEnumValue)
+KRX_ARRAY_SUITE(StrikethroughPosition, KRXEnumValue)
+KRX_ARRAY_SUITE(ParagraphJustification, KRXEnumValue)
+KRX_ARRAY_SUITE(ArrayReal, KRXArrayRealRef)
+KRX_ARRAY_SUITE(BurasagariType, KRXEnumValue)
+KRX_ARRAY_SUITE(PreferredKinsokuOrder, KRXEnumValue)
+KRX_ARRAY_SUITE(KinsokuRef, KRXKinsokuRef)
+KRX_ARRAY_SUITE(MojiKumiRef, KRXMojiKumiRef)
+KRX_ARRAY_SUITE(MojiKumiSetRef, KRXMojiKumiSetRef)
+KRX_ARRAY_SUITE(TabStopsRef, KRXTabStopsRef)
+KRX_ARRAY_SUITE(LeadingType, KRXEnumValue)
+KRX_ARRAY_SUITE(FontRef, KRXFontRef)
+KRX_ARRAY_SUITE(GlyphID, KRXGlyphID)
+KRX_ARRAY_SUITE(RealPoint, ZMRealPoint)
+KRX_ARRAY_SUITE(RealMatrix, KRXRealMatrix)
+KRX_ARRAY_SUITE(ParagraphDirection, KRXEnumValue)
+KRX_ARRAY_SUITE(JustificationMethod, KRXEnumValue)
+KRX_ARRAY_SUITE(KashidaWidth, KRXEnumValue)
+KRX_ARRAY_SUITE(Kashidas, KRXEnumValue)
+KRX_ARRAY_SUITE(DirOverride, KRXEnumValue)
+KRX_ARRAY_SUITE(DigitSet, KRXEnumValue)
+KRX_ARRAY_SUITE(DiacVPos, KRXEnumValue)
 
 #ifdef __cplusplus
 }

@@ -1,5 +1,6 @@
 #pragma once
 /* Text-engine frames, and the lines composed in them. */
+#include "KRXTypes.h"
 #include "ZMTypes.h"
 
 #ifdef __cplusplus
@@ -8,6 +9,15 @@ extern "C" {
 
 #define ZM_KRX_TEXT_FRAME_SUITE_NAME    "KRX TextFrame Suite"
 #define ZM_KRX_TEXT_FRAME_SUITE_VERSION 101
+
+typedef struct KRXTextFrameSuite {
+    /* 0 */ ZMErr(ZM_API *AddRef)(KRXTextFrameRef frame);
+    /* 1 */ ZMErr(ZM_API *Release)(KRXTextFrameRef frame);
+    /* 2: KRX_FRAME_TYPE_... */
+    ZMErr(ZM_API *GetType)(KRXTextFrameRef frame, KRXFrameType *type);
+    /* 3: all the text of the frame (a new reference). */
+    ZMErr(ZM_API *GetTextRange)(KRXTextFrameRef frame, KRXTextRangeRef *range);
+} KRXTextFrameSuite;
 
 #define ZM_KRX_TEXT_FRAMES_ITERATOR_SUITE_NAME    "KRX TextFramesIterator Suite"
 #define ZM_KRX_TEXT_FRAMES_ITERATOR_SUITE_VERSION 1

@@ -1,5 +1,6 @@
 #pragma once
 /* Text-engine ranges of text, and iterators over their runs and words. */
+#include "KRXTypes.h"
 #include "ZMTypes.h"
 
 #ifdef __cplusplus
@@ -8,6 +9,19 @@ extern "C" {
 
 #define ZM_KRX_TEXT_RANGE_SUITE_NAME    "KRX TextRange Suite"
 #define ZM_KRX_TEXT_RANGE_SUITE_VERSION 1
+
+typedef struct KRXTextRangeSuite {
+    /* 0 */ ZMErr(ZM_API *AddRef)(KRXTextRangeRef range);
+    /* 1 */ ZMErr(ZM_API *Release)(KRXTextRangeRef range);
+    /* 2: characters in the range (Unicode code points). */
+    ZMErr(ZM_API *GetSize)(KRXTextRangeRef range, int32_t *size);
+    /* 3: the text in UTF-8 into the caller's buffer of bufferSize bytes with a closing NUL;
+       text that does not fit is cut after the last whole character that does. bufferSize
+       below 1 or a null buffer is ZM_ERR_BAD_ARGUMENT. */
+    ZMErr(ZM_API *GetContents)(KRXTextRangeRef range, char *buffer, int32_t bufferSize);
+    /* 4: an inspector of the character features over the range (a new reference). */
+    ZMErr(ZM_API *GetCharInspector)(KRXTextRangeRef range, KRXCharInspectorRef *inspector);
+} KRXTextRangeSuite;
 
 #define ZM_KRX_TEXT_RANGES_SUITE_NAME    "KRX TextRanges Suite"
 #define ZM_KRX_TEXT_RANGES_SUITE_VERSION 1

@@ -1,5 +1,6 @@
 #pragma once
 /* The host's font catalogue, and the glue between its fonts and the text engine's. */
+#include "KRXTypes.h"
 #include "ZMTypes.h"
 
 #ifdef __cplusplus
@@ -77,6 +78,11 @@ typedef struct ZMFontSuite {
        European windows-1250, anything else windows-1252; a character the code page lacks is
        "?". A font that is not installed: its family as the text names it. */
     ZMErr(ZM_API *GetWindowsName)(ZMFontKey key, char *buffer, int32_t bufferSize);
+    /* 5: the catalogue's key of a text-engine font. */
+    ZMErr(ZM_API *FontKeyFromKRXFont)(KRXFontRef font, ZMFontKey *key);
+    /* 6: the text engine's font for a key, a new reference (given back with the text
+       engine's font suite). */
+    ZMErr(ZM_API *KRXFontFromFontKey)(ZMFontKey key, KRXFontRef *font);
 } ZMFontSuite;
 
 /* The host preference that turns the alternate-name setting on: "fontAlternateNames", a
