@@ -37,18 +37,30 @@ struct Encoding {
     ZMStringEncoding selector;
     const char* converterName;
     // Input that does not decode is refused rather than repaired. Every windows-1252 byte is
-    // a character, so only UTF-8 input can be wrong.
+    // a character, so only the other encodings' input can be wrong.
     bool refusesBadInput;
     // What the output holds in place of a character the encoding cannot hold; null keeps the
     // converter's own (UTF-8 holds every character, so it never needs one).
     const char* substitute;
-    // Whether a byte of output begins a character, for cutting text that does not fit.
+    // Whether a byte of output begins a character, for cutting text that does not fit; null
+    // where a byte alone cannot tell (the trail byte of a double-byte character may look like
+    // any other byte).
     bool (*beginsCharacter)(char byte);
 };
 
-constexpr std::array<Encoding, 2> kEncodings = {{
-    {ZM_ENCODING_PLATFORM, "windows-1252", false, "?", [](char) { return true; }},
+constexpr bool EveryByteBeginsACharacter(char) { return true; }
+
+constexpr std::array<Encoding, 9> kEncodings = {{
+    {ZM_ENCODING_PLATFORM, "windows-1252", false, "?", EveryByteBeginsACharacter},
     {ZM_ENCODING_UTF8, "UTF-8", true, nullptr, [](char byte) { return !U8_IS_TRAIL(byte); }},
+    // The names a font suite writes, in the code page of the font's script.
+    {ZM_ENCODING_ROMAN, "windows-1252", false, "?", EveryByteBeginsACharacter},
+    {ZM_ENCODING_JAPANESE, "Shift_JIS", true, "?", nullptr},
+    {ZM_ENCODING_TRADITIONAL_CHINESE, "windows-950", true, "?", nullptr},
+    {ZM_ENCODING_SIMPLIFIED_CHINESE, "windows-936", true, "?", nullptr},
+    {ZM_ENCODING_KOREAN, "windows-949", true, "?", nullptr},
+    {ZM_ENCODING_CYRILLIC, "windows-1251", true, "?", EveryByteBeginsACharacter},
+    {ZM_ENCODING_CENTRAL_EUROPEAN, "windows-1250", true, "?", EveryByteBeginsACharacter},
 }};
 
 const Encoding& FindEncoding(ZMStringEncoding selector) {
@@ -129,16 +141,33 @@ std::string Encode(const icu::UnicodeString& text, const Encoding& encoding) {
     return bytes;
 }
 
-// The longest start of bytes, at most limit long, that ends between two characters.
-std::size_t CutAtCharacter(const std::string& bytes, const Encoding& encoding, std::size_t limit) {
+// The length of the longest start of bytes (text in encoding), at most limit long, that ends
+// between two characters.
+std::size_t CutAtCharacter(const icu::UnicodeString& text, const std::string& bytes,
+                           const Encoding& encoding, std::size_t limit) {
     if (limit >= bytes.size()) {
         return bytes.size();
     }
-    std::size_t cut = limit;
-    while (cut > 0 && !encoding.beginsCharacter(bytes[cut])) {
-        --cut;
+    if (encoding.beginsCharacter != nullptr) {
+        std::size_t cut = limit;
+        while (cut > 0 && !encoding.beginsCharacter(bytes[cut])) {
+            --cut;
+        }
+        return cut;
     }
-    return cut;
+    // These encodings keep no state from one character to the next, so the bytes of a start
+    // of the text are its characters' bytes one after the other.
+    std::size_t kept = 0;
+    for (int32_t start = 0; start < text.length();) {
+        int32_t end = text.moveIndex32(start, 1);
+        std::size_t size = Encode(text.tempSubStringBetween(start, end), encoding).size();
+        if (kept + size > limit) {
+            break;
+        }
+        kept += size;
+        start = end;
+    }
+    return kept;
 }
 
 // A byte range from a plug-in: the count is never negative, and the pointer may be null only
@@ -230,11 +259,12 @@ ZMErr ZM_API ToBytes(ZMUnicodeString string, ZMStringEncoding encoding, char* bu
         RequireArguments(byteCount);
         RequireByteRange(buffer, bufferSize);
         const Encoding& target = FindEncoding(encoding);
-        std::string bytes = Encode(Read(string), target);
+        const icu::UnicodeString& text = Read(string);
+        std::string bytes = Encode(text, target);
         *byteCount = static_cast<int32_t>(bytes.size());  // ICU lengths are int32_t already
         if (bufferSize > 0) {
             std::size_t kept =
-                CutAtCharacter(bytes, target, static_cast<std::size_t>(bufferSize) - 1);
+                CutAtCharacter(text, bytes, target, static_cast<std::size_t>(bufferSize) - 1);
             std::memcpy(buffer, bytes.data(), kept);
             buffer[kept] = '\0';
         }

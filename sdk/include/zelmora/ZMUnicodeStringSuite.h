@@ -13,13 +13,22 @@ extern "C" {
 typedef int32_t ZMStringEncoding;
 #define ZM_ENCODING_PLATFORM 0 /* windows-1252; characters it cannot hold become "?" */
 #define ZM_ENCODING_UTF8     1
+/* The code pages that fonts write their names in, one per font script (ZMFontSuite.h). Like
+   the platform encoding, a character one of them cannot hold becomes "?" on the way out. */
+#define ZM_ENCODING_ROMAN               16 /* windows-1252 */
+#define ZM_ENCODING_JAPANESE            17 /* Shift_JIS (932) */
+#define ZM_ENCODING_TRADITIONAL_CHINESE 18 /* Big5 (950) */
+#define ZM_ENCODING_SIMPLIFIED_CHINESE  19 /* GBK (936) */
+#define ZM_ENCODING_KOREAN              20 /* 949 */
+#define ZM_ENCODING_CYRILLIC            24 /* windows-1251 */
+#define ZM_ENCODING_CENTRAL_EUROPEAN    25 /* windows-1250 */
 
 /* A string made by an entry below is owned by the caller and given back with Dispose.
    A null handle is an empty string wherever a string is read. Lengths count UTF-16 units. */
 typedef struct ZMUnicodeStringSuite {
     /* 0 */ ZMErr(ZM_API *NewEmpty)(ZMUnicodeString *result);
     /* 1: byteCount bytes (no NUL needed). ZM_ERR_BAD_ENCODING for an unknown selector or
-       for bytes that are not valid UTF-8. */
+       for bytes that are not valid in their encoding (every windows-1252 byte is). */
     ZMErr(ZM_API *NewFromBytes)(const char *bytes, int32_t byteCount, ZMStringEncoding encoding,
                                 ZMUnicodeString *result);
     /* 2: the localized text of a key "$$$/Group/Name[/Platform]=Default text": the current

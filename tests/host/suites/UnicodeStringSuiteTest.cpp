@@ -142,6 +142,46 @@ TEST_F(UnicodeStringSuiteTest, InvalidUtf8IsRefusedAsBadEncoding) {
     }
 }
 
+// The code pages of the font scripts, each with a name written in it (the bytes are those
+// the code page's own table gives: 日 is 93 FA in Shift_JIS, A4 E9 in Big5, C8 D5 in GBK;
+// 한 is C7 D1 in code page 949; П is CF in windows-1251; Š is 8A in windows-1250).
+TEST_F(UnicodeStringSuiteTest, EachFontScriptsCodePageReadsItsOwnBytes) {
+    EXPECT_EQ(Bytes(Make("Caf\xE9", ZM_ENCODING_ROMAN)), "Café");
+    EXPECT_EQ(Bytes(Make("\x93\xFA\x96\x7B", ZM_ENCODING_JAPANESE)), "日本");
+    EXPECT_EQ(Bytes(Make("\xA4\xE9\xA5\xBB", ZM_ENCODING_TRADITIONAL_CHINESE)), "日本");
+    EXPECT_EQ(Bytes(Make("\xC8\xD5\xB1\xBE", ZM_ENCODING_SIMPLIFIED_CHINESE)), "日本");
+    EXPECT_EQ(Bytes(Make("\xC7\xD1\xB1\xB9", ZM_ENCODING_KOREAN)), "한국");
+    EXPECT_EQ(Bytes(Make("\xCF\xF0\xE8\xE2\xE5\xF2", ZM_ENCODING_CYRILLIC)), "Привет");
+    EXPECT_EQ(Bytes(Make("\x8Ao\x9A", ZM_ENCODING_CENTRAL_EUROPEAN)), "Šoš");
+}
+
+TEST_F(UnicodeStringSuiteTest, AFontScriptsCodePageWritesItsOwnBytesAndQuestionMarks) {
+    EXPECT_EQ(Bytes(Make("日本"), ZM_ENCODING_JAPANESE), "\x93\xFA\x96\x7B");
+    EXPECT_EQ(Bytes(Make("Привет"), ZM_ENCODING_CYRILLIC), "\xCF\xF0\xE8\xE2\xE5\xF2");
+    // Shift_JIS has no Hangul, windows-1251 no Japanese: one "?" per character.
+    EXPECT_EQ(Bytes(Make("한국"), ZM_ENCODING_JAPANESE), "??");
+    EXPECT_EQ(Bytes(Make("a日b"), ZM_ENCODING_CYRILLIC), "a?b");
+}
+
+// "a" is one byte and each of 日本 two in Shift_JIS: five bytes of room hold "a日" and the
+// NUL, not half of 本; its trail byte 7B would read as "{" on its own.
+TEST_F(UnicodeStringSuiteTest, DoubleByteTextIsCutBetweenTwoCharacters) {
+    ZMUnicodeString string = Make("a日本");
+    char buffer[5];
+    int32_t byteCount = -1;
+    EXPECT_EQ(strings->ToBytes(string, ZM_ENCODING_JAPANESE, buffer, sizeof buffer, &byteCount),
+              ZM_ERR_BUFFER_TOO_SMALL);
+    EXPECT_EQ(byteCount, 5);
+    EXPECT_STREQ(buffer, "a\x93\xFA");
+}
+
+TEST_F(UnicodeStringSuiteTest, ADoubleByteCharacterCutShortIsRefusedAsBadEncoding) {
+    ZMUnicodeString string = nullptr;
+    EXPECT_EQ(strings->NewFromBytes("\x93", 1, ZM_ENCODING_JAPANESE, &string),
+              ZM_ERR_BAD_ENCODING);  // the lead byte of 日 without its trail byte
+    EXPECT_EQ(string, nullptr);
+}
+
 TEST_F(UnicodeStringSuiteTest, AnUnknownEncodingIsBadEncodingOnTheWayIn) {
     ZMUnicodeString string = nullptr;
     EXPECT_EQ(strings->NewFromBytes("a", 1, 2, &string), ZM_ERR_BAD_ENCODING);
