@@ -13,6 +13,7 @@ inline constexpr int32_t kAlertIdNone = 0;
 inline constexpr int32_t kAlertIdStyle = -1;     // graphic styles and brushes
 inline constexpr int32_t kAlertIdGradient = -1;  // a gradient's spot stops
 inline constexpr int32_t kAlertIdSwatch = -2;    // a swatch, on art or in a colour space
+inline constexpr int32_t kAlertIdFont = -1;      // a font and the lines of its details
 
 // Inserts text into a sorted list without repeats (a text already there has its count
 // raised). When the list cannot take it, shows the out-of-memory alert with alertCode and
