@@ -51,6 +51,7 @@ void RegisterRasterSuite(SuiteRegistry& registry);
 void RegisterARMSuite(SuiteRegistry& registry);
 void RegisterFontSuite(SuiteRegistry& registry);
 void RegisterFontGlueSuite(SuiteRegistry& registry);
+void RegisterFOConversionSuite(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host
