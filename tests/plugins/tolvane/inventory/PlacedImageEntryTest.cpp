@@ -90,6 +90,14 @@ TEST_F(PlacedImageEntryTest, AFailingTypeQueryEndsWithTheHostsCode) {
     EXPECT_EQ(Record().linkedImageCount, 1);
 }
 
+// The asset suite is optional.
+TEST_F(PlacedImageEntryTest, WithoutTheAssetSuiteNoUrlIsWritten) {
+    runtime.suites.FailAcquisition(ZM_ARM_SUITE_NAME, ZM_ARM_SUITE_VERSION,
+                                   ZM_ERR_SUITE_NOT_FOUND);
+    ASSERT_EQ(AddPlaced("eps"), ZM_ERR_NONE);
+    EXPECT_EQ(Linked(), (Texts{"", ImagePath("art.eps"), "Type: EPS"}));
+}
+
 TEST_F(PlacedImageEntryTest, AnAssetSuiteThatKeepsNoAddressesAddsNoUrl) {
     runtime.faults.FailCall(ZM_ARM_SUITE_NAME, kIsAvailable, ZM_ERR_INTERNAL);
     ASSERT_EQ(AddPlaced("eps"), ZM_ERR_NONE);

@@ -2,6 +2,7 @@
 
 #include <panel/PanelCategories.hpp>
 
+#include <zelmora/ZMARMSuite.h>
 #include <zelmora/ZMArtSuite.h>
 #include <zelmora/ZMColorSpaceSuite.h>
 #include <zelmora/ZMRasterSuite.h>
@@ -93,6 +94,16 @@ TEST_F(LinkedRasterTest, ABlockIsInsertedAmongPlacedFilesByItsText) {
     EXPECT_EQ(Linked(), (Texts{"", ImagePath("art.eps"), DeepBlock(), "Type: EPS",
                                "URL: https://assets.example/art"}));
     EXPECT_EQ(Record().linkedImageCount, 2);
+}
+
+// The asset suite is optional: the block then ends with the resolution's line.
+TEST_F(LinkedRasterTest, WithoutTheAssetSuiteTheBlockHasNoUrl) {
+    runtime.suites.FailAcquisition(ZM_ARM_SUITE_NAME, ZM_ARM_SUITE_VERSION,
+                                   ZM_ERR_SUITE_NOT_FOUND);
+    ASSERT_EQ(AddLinkedRaster("photo"), ZM_ERR_NONE);
+    std::string withoutUrl = PhotoBlock();
+    withoutUrl.erase(withoutUrl.find("URL: "));
+    EXPECT_EQ(Linked(), (Texts{withoutUrl}));
 }
 
 // Placed art has no raster colour space: the spot step ends at its query, having added
