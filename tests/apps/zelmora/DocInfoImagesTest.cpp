@@ -33,37 +33,28 @@ std::string ListSection(const std::string& title, const std::vector<std::string>
     return text;
 }
 
-// The six image files in the order of their whole text, which begins with the path:
-// bitmap-, cmyk-, gray-, then rgb-640x480.png twice (its smaller placement first, "240.000"
-// before "480.000"; photo-again is photo's double and adds nothing) and rgb16- ("-" sorts
-// before "1"). Then the other files, appended in document order behind an empty entry each:
-// the EPS file once (with the first placement's address), the missing, damaged and absurd
-// files, and the image without a file. Each raster block ends in its own line end, so a blank
-// line follows it on screen.
+// The seven image files in the order of their whole text, which begins with the path:
+// bitmap-, cmyk-, gray-, ink-, then rgb-640x480.png twice (its smaller placement first,
+// "240.000" before "480.000"; photo-again is photo's double and adds nothing) and rgb16- ("-"
+// sorts before "1"). Then the other files, appended in document order behind an empty entry
+// each: the EPS file once (with the first placement's address), the missing, damaged and
+// absurd files, and the image without a file. Each raster block ends in its own line end, so
+// a blank line follows it on screen.
 TEST(DocInfoImagesTest, LinkedImagesShowEachImageFileSortedThenEachOtherFile) {
-    EXPECT_EQ(Shown("linked-images", kLinked),
-              ListSection("Linked Images:", {BitmapBlock(),
-                                             CmykBlock(),
-                                             SquareBlock(),
-                                             SmallPhotoBlock(),
-                                             PhotoBlock(),
-                                             DeepBlock(),
-                                             "",
-                                             ImagePath("art.eps"),
-                                             "Type: EPS",
-                                             "URL: https://assets.example/art",
-                                             "",
-                                             ImagePath("gone.png"),
-                                             "Type: Other",
-                                             "",
-                                             ImagePath("truncated.png"),
-                                             "Type: Other",
-                                             "",
-                                             ImagePath("absurd-area.png"),
-                                             "Type: Other",
-                                             "",
-                                             "(Unknown image)",
-                                             "Type: Other"}));
+    std::vector<std::string> entries = {BitmapBlock(),    CmykBlock(),       SquareBlock(),
+                                        PlacedInkBlock(), SmallPhotoBlock(), PhotoBlock(),
+                                        DeepBlock()};
+    // A file the host does not read as an image: an empty entry, its path and its type.
+    auto otherFile = [&](const std::string& path, const std::string& type) {
+        entries.insert(entries.end(), {"", path, "Type: " + type});
+    };
+    otherFile(ImagePath("art.eps"), "EPS");
+    entries.push_back("URL: https://assets.example/art");
+    otherFile(ImagePath("gone.png"), "Other");
+    otherFile(ImagePath("truncated.png"), "Other");
+    otherFile(ImagePath("absurd-area.png"), "Other");
+    otherFile("(Unknown image)", "Other");
+    EXPECT_EQ(Shown("linked-images", kLinked), ListSection("Linked Images:", entries));
 }
 
 TEST(DocInfoImagesTest, ADocumentOfPlacedFilesHasNoEmbeddedImages) {
@@ -91,12 +82,12 @@ TEST(DocInfoImagesTest, TheSpotInksOfImagesAreSpotColours) {
     EXPECT_EQ(Shown("spot-colors", kEmbedded), "Spot Color Objects:\r\n\r\nOrange (CMYK)");
 }
 
-// The six distinct image descriptions and five other files of linked.svg count as linked
-// images (11); nothing there is embedded.
+// The seven distinct image descriptions and five other files of linked.svg count as linked
+// images (12); nothing there is embedded.
 TEST(DocInfoImagesTest, TheObjectsSectionCountsTheLinkedImagesDescribed) {
     EXPECT_NE(Shown("objects", kLinked)
                   .find("Fonts: NONE\r\n"
-                        "Linked Images: 11\r\n"
+                        "Linked Images: 12\r\n"
                         "Embedded Images: NONE\r\n"),
               std::string::npos);
 }

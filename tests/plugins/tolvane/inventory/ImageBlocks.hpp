@@ -103,6 +103,20 @@ inline std::string CmykBlock() {
            "Resolution: 96.000 by 96.000 pixels per inch\r\n";
 }
 
+// A TIFF of one named ink, 8 bits, 6 x 4 pixels: a separation (code 4). Placed art has no
+// colour space to count inks in, so it is a mixed ink image, and it shows no colour space
+// lines, which only raster art has. 1 channel, 24 / 1024 = 0K. At 6 x 4 points: 72.
+inline std::string PlacedInkBlock() {
+    return ImagePath("ink-orange-6x4.tif") +
+           "\r\n"
+           "Type: Mixed Ink Image\r\n"
+           "Bits per Pixel: 8\r\n"
+           "Channels: 1\r\n"
+           "Size: 0K, 6 by 4 pixels\r\n"
+           "Dimensions: 6.000 by 4.000 points \r\n"
+           "Resolution: 72.000 by 72.000 pixels per inch\r\n";
+}
+
 // --- embedded.svg ---------------------------------------------------------------------------
 
 // 64 x 32 pixels of RGB and alpha at 8 bits: code 17, transparent RGB, 32 bits, 4 channels,

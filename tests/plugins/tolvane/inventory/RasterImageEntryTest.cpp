@@ -61,6 +61,11 @@ TEST_F(LinkedRasterTest, ACmykJpegIsCmykOfFourChannels) {
     EXPECT_EQ(Linked(), (Texts{CmykBlock()}));
 }
 
+TEST_F(LinkedRasterTest, APlacedImageOfOneInkIsAMixedInkImageWithoutColourSpaceLines) {
+    ASSERT_EQ(AddLinkedRaster("ink"), ZM_ERR_NONE);
+    EXPECT_EQ(Linked(), (Texts{PlacedInkBlock()}));
+}
+
 // photo-again is the same file at the same size with the same address: the same block.
 TEST_F(LinkedRasterTest, TheSameFilePlacedAlikeIsDescribedOnce) {
     AddLinkedRaster("photo");
@@ -98,8 +103,7 @@ TEST_F(LinkedRasterTest, ABlockIsInsertedAmongPlacedFilesByItsText) {
 
 // The asset suite is optional: the block then ends with the resolution's line.
 TEST_F(LinkedRasterTest, WithoutTheAssetSuiteTheBlockHasNoUrl) {
-    runtime.suites.FailAcquisition(ZM_ARM_SUITE_NAME, ZM_ARM_SUITE_VERSION,
-                                   ZM_ERR_SUITE_NOT_FOUND);
+    runtime.suites.FailAcquisition(ZM_ARM_SUITE_NAME, ZM_ARM_SUITE_VERSION, ZM_ERR_SUITE_NOT_FOUND);
     ASSERT_EQ(AddLinkedRaster("photo"), ZM_ERR_NONE);
     std::string withoutUrl = PhotoBlock();
     withoutUrl.erase(withoutUrl.find("URL: "));

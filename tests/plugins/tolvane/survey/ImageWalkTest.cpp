@@ -44,10 +44,10 @@ const ImageCounts kImageCounts[] = {
     {2, 1, true, true},     // saving from Document
 };
 
-// linked.svg: the six distinct image descriptions (photo and photo-again are alike; the
-// small photo differs in size) of photo, photo-small, square, bitmap, deep and cmyk, and five
-// other files (the EPS file placed twice, a missing one, a damaged one, an absurd one and one
-// without a name): 11.
+// linked.svg: the seven distinct image descriptions (photo and photo-again are alike; the
+// small photo differs in size) of photo, photo-small, square, bitmap, deep, cmyk and ink, and
+// five other files (the EPS file placed twice, a missing one, a damaged one, an absurd one and
+// one without a name): 12.
 TEST_F(ImageWalkTest, PlacedArtIsExaminedInItsOwnCategories) {
     OpenImages("linked.svg");
     for (const ImageCounts& expected : kImageCounts) {
@@ -55,7 +55,7 @@ TEST_F(ImageWalkTest, PlacedArtIsExaminedInItsOwnCategories) {
                      std::to_string(expected.saving));
         globals.saving = expected.saving;
         const SurveyRecord& record = Survey(expected.mode);
-        EXPECT_EQ(record.linkedImageCount, expected.placedExamined ? 11 : 0);
+        EXPECT_EQ(record.linkedImageCount, expected.placedExamined ? 12 : 0);
         EXPECT_EQ(record.embeddedImageCount, 0);
     }
 }
@@ -75,14 +75,14 @@ TEST_F(ImageWalkTest, RasterArtIsExaminedInItsOwnCategories) {
     }
 }
 
-// The first of the 13 matches is placed art; its failing query ends the survey there, before
+// The first of the 14 matches is placed art; its failing query ends the survey there, before
 // the progress would move on to match 4.
 TEST_F(ImageWalkTest, AFailingPlacedQueryEndsTheSurvey) {
     OpenImages("linked.svg");
     runtime.faults.FailCall(ZM_PLACED_SUITE_NAME, kGetPlacedRasterInfo, ZM_ERR_INTERNAL);
     EXPECT_EQ(Survey(10).linkedImageCount, 0);
     EXPECT_EQ(progress.calls,
-              (std::vector<std::string>{"begin Document &Info...", "update 0/13", "end"}));
+              (std::vector<std::string>{"begin Document &Info...", "update 0/14", "end"}));
 }
 
 }  // namespace
