@@ -67,7 +67,8 @@ ZMErr AddRasterArt(ZMArtHandle art, int32_t placed) {
         }) != ZM_ERR_NONE) {
         return ZM_ERR_NONE;  // an image the host cannot describe is left out
     }
-    // Of the list's failures only a want of memory is reported, as for every failing query.
+    // A list that cannot take the block has shown its alert and ends the survey step; a
+    // comparison the host cannot make is a failing query like any other.
     if (ZMErr error = zm::CodeOrNoMemory([&] { return RecordBlock(block); });
         error != ZM_ERR_NONE) {
         return error == ZM_ERR_NO_MEMORY ? error : ZM_ERR_NONE;
