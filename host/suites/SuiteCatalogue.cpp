@@ -51,6 +51,15 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterARMSuite(registry);
     RegisterFontSuite(registry);
     RegisterFontGlueSuite(registry);
+    RegisterFOConversionSuite(registry);
+    RegisterTextFrameSuite(registry);
+    RegisterKRXTextFrameSuite(registry);
+    RegisterKRXTextRangeSuite(registry);
+    RegisterKRXCharInspectorSuite(registry);
+    RegisterKRXFontSuite(registry);
+    RegisterZMKRXPaintSuite(registry);
+    RegisterKRXApplicationPaintSuite(registry);
+    RegisterKRXArraySuites(registry);
     RegisterPendingSuites(registry);
 }
 
