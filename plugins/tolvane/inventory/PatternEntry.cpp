@@ -4,6 +4,7 @@
 #include "inventory/ListEntry.hpp"
 #include "shell/SuiteSet.hpp"
 #include "survey/SurveyRecord.hpp"
+#include "survey/TextFrameSurvey.hpp"
 
 namespace tolvane {
 
@@ -11,8 +12,7 @@ namespace {
 
 // Only the definition's top-level art is looked at: text set deeper, in a group of the tile,
 // is deliberately not surveyed. The last sibling query's code is the answer.
-ZMErr SurveyTopLevelText(ZMArtHandle definition, [[maybe_unused]] PaintKind& marks,
-                         [[maybe_unused]] int32_t skipSolid) {
+ZMErr SurveyTopLevelText(ZMArtHandle definition, PaintKind& marks, int32_t skipSolid) {
     ZMArtHandle child = nullptr;
     ZMErr error = sArtSuite->GetArtFirstChild(definition, &child);
     while (error == ZM_ERR_NONE && child != nullptr) {
@@ -21,7 +21,10 @@ ZMErr SurveyTopLevelText(ZMArtHandle definition, [[maybe_unused]] PaintKind& mar
             return typeError;
         }
         if (type == ZM_ART_TEXT_FRAME) {
-            // The text-frame survey, with marks and skipSolid, is added with the text engine.
+            if (ZMErr textError = VisitTextFrame(child, marks, skipSolid);
+                textError != ZM_ERR_NONE) {
+                return textError;
+            }
         }
         error = sArtSuite->GetArtSibling(child, &child);
     }

@@ -11,6 +11,7 @@
 #include "shell/SuiteSet.hpp"
 #include "survey/PluginGroups.hpp"
 #include "survey/SurveyRecord.hpp"
+#include "survey/TextFrameSurvey.hpp"
 
 namespace tolvane {
 
@@ -97,6 +98,13 @@ bool RasterImagesShown() {
     return ShownOrSaving({kModeObjects, kModeSpotColors, kModeLinkedImages, kModeEmbeddedImages});
 }
 
+// Text frames are counted in Objects, their paints fill the spot colour and pattern lists,
+// and their fonts the two font lists.
+bool TextShown() {
+    return ShownOrSaving(
+        {kModeObjects, kModeSpotColors, kModePatterns, kModeFonts, kModeFontDetails});
+}
+
 bool ForeignObjectsShown() {
     return ShownOrSaving({kModeObjects, kModeSpotColors, kModeFonts, kModeFontDetails});
 }
@@ -123,7 +131,7 @@ constexpr TypeWork kTypeWork[] = {
     {ZM_ART_RASTER, RasterImagesShown, SurveyRaster},
     {ZM_ART_PLUGIN_GROUP, ObjectsShown, SurveyPluginGroup},
     {ZM_ART_MESH, MeshColorsShown, CountMesh},
-    // Text frames are surveyed with the text engine.
+    {ZM_ART_TEXT_FRAME, TextShown, VisitTextFrame},
     {ZM_ART_SYMBOL_INSTANCE, nullptr, CountSymbolInstance},
     {ZM_ART_FOREIGN_OBJECT, ForeignObjectsShown, CountForeignObject},
     {ZM_ART_CHART, nullptr, CountChart},

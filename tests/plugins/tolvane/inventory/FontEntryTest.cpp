@@ -123,6 +123,18 @@ TEST_F(FontEntryTest, WithAlternateNamesOffTheFullNameIsNeverAskedFor) {
     EXPECT_EQ(FontList(), (Texts{"LiberationSans (TrueType)"}));
 }
 
+// The list shows the full name, so the font is listed; its block, made from the PostScript
+// name query, says the font has no PostScript name.
+TEST_F(FontEntryTest, AListedFontWithoutAPostScriptNameIsNotInstalledInItsDetails) {
+    AlternateNames("true");
+    ZMFontKey key = Key("Liberation Sans");
+    runtime.faults.FailCall(ZM_FONT_SUITE_NAME, kGetPostScriptName, ZM_ERR_INTERNAL);
+    EXPECT_EQ(tolvane::AddFont(key), ZM_ERR_NONE);
+    EXPECT_EQ(FontList(), (Texts{"Liberation Sans (TrueType)"}));
+    EXPECT_EQ(DetailLines(), DetailBlock("NOT Installed.", "NOT Installed.", "Liberation Sans",
+                                         "Roman", "TrueType"));
+}
+
 TEST_F(FontEntryTest, AFailingInfoQueryEndsWithTheHostsCodeAndCountsNothing) {
     ZMFontKey key = Key("Liberation Sans");
     runtime.faults.FailCall(ZM_FONT_SUITE_NAME, kGetFontInfo, ZM_ERR_INTERNAL);

@@ -68,13 +68,30 @@ TEST_F(PatternEntryTest, EveryTopLevelChildHasItsTypeAsked) {
     EXPECT_EQ(Add("dotsArt"), ZM_ERR_INTERNAL);
 }
 
-// The circle, the text frame and the rect are walked to the end; nothing is counted or
-// marked for them here.
-TEST_F(PatternEntryTest, ATileWithTextAtItsTopIsWalkedToTheEnd) {
+// The circle and the rect at the top of the tile are passed over; the text frame between
+// them is surveyed: one point frame, its font, and its black (RGB) fill, marked and counted.
+TEST_F(PatternEntryTest, ATextFrameAtTheTopOfTheTileIsSurveyed) {
     EXPECT_EQ(Add("letteringArt"), ZM_ERR_NONE);
+    EXPECT_EQ(Entries(Lists().fontList), (Texts{"DejaVuSans (TrueType)"}));
+    EXPECT_EQ(Record().typeObjectCount, 1);
+    EXPECT_EQ(Record().pointTypeCount, 1);
+    EXPECT_EQ(marks, tolvane::kPaintRgb);
+    EXPECT_EQ(ModelCounters(), (std::vector<int32_t>{1, 0, 0, 0, 0, 0}));
+}
+
+// The tile's text sits in a group: nothing of it is surveyed.
+TEST_F(PatternEntryTest, TextInsideAGroupOfTheTileIsNotSurveyed) {
     EXPECT_EQ(Add("nestedArt"), ZM_ERR_NONE);
+    EXPECT_TRUE(Entries(Lists().fontList).empty());
+    EXPECT_EQ(Record().typeObjectCount, 0);
     EXPECT_EQ(marks, 0u);
-    EXPECT_EQ(ModelCounters(), (std::vector<int32_t>{0, 0, 0, 0, 0, 0}));
+}
+
+// Inside an opacity mask the text's black marks nothing; its font is listed all the same.
+TEST_F(PatternEntryTest, TheTilesTextIsSurveyedWithTheCallersMaskFlag) {
+    EXPECT_EQ(tolvane::AddPattern(FillOf("letteringArt").c.pattern, marks, 1), ZM_ERR_NONE);
+    EXPECT_EQ(marks, 0u);
+    EXPECT_EQ(Entries(Lists().fontList), (Texts{"DejaVuSans (TrueType)"}));
 }
 
 TEST_F(PatternEntryTest, AFailingNameQueryEndsWithTheHostsCodeAndListsNothing) {

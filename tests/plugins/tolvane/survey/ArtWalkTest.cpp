@@ -148,7 +148,8 @@ TEST_F(ArtWalkTest, ACompoundPathCountsInTheLinkedImagesCategory) {
 }
 
 // In Fonts only the two text frames and the foreign object are matched (three matches, one
-// progress step): none of the ten paths, the compound path or the chart is seen.
+// progress step): none of the ten paths, the compound path or the chart is seen; both frames
+// are surveyed.
 TEST_F(ArtWalkTest, TheFontsCategoryMatchesOnlyTextFramesAndForeignObjects) {
     OpenWalkFixture("mode-nine.svg");
     const SurveyRecord& record = Survey(9);
@@ -157,6 +158,7 @@ TEST_F(ArtWalkTest, TheFontsCategoryMatchesOnlyTextFramesAndForeignObjects) {
     EXPECT_EQ(record.compoundPathCount, 0);
     EXPECT_EQ(record.chartCount, 0);
     EXPECT_EQ(record.foreignObjectCount, 1);
+    EXPECT_EQ(record.typeObjectCount, 2);
 }
 
 // Built by hand: the importer makes unknown art only for graphs. One graph, one unknown

@@ -30,6 +30,7 @@ protected:
     void ExpectNothingLeft() override {
         EXPECT_EQ(runtime.memory.LiveHandles(), 0u);  // the match handles went back too
         EXPECT_TRUE(runtime.masks.All().empty());     // every mask reference was released
+        EXPECT_EQ(runtime.objects.Size(), 0u);        // and every text-engine reference
     }
 
     host::document::Document& OpenWalkFixture(const std::string& name) {
