@@ -48,10 +48,42 @@ ZMColor ToColorRecord(const document::Color& color) {
     return record;
 }
 
+ZMFillStyle ToFillStyleRecord(const document::Color& color) {
+    ZMFillStyle record{};
+    record.color = ToColorRecord(color);
+    return record;
+}
+
+bool SameColorRecord(const ZMColor& first, const ZMColor& second) {
+    if (first.kind != second.kind) {
+        return false;
+    }
+    const auto& a = first.c;
+    const auto& b = second.c;
+    switch (first.kind) {
+        case ZM_COLOR_GRAY:
+            return a.gray.gray == b.gray.gray;
+        case ZM_COLOR_FOUR:
+            return a.four.cyan == b.four.cyan && a.four.magenta == b.four.magenta &&
+                   a.four.yellow == b.four.yellow && a.four.black == b.four.black;
+        case ZM_COLOR_THREE:
+            return a.three.red == b.three.red && a.three.green == b.three.green &&
+                   a.three.blue == b.three.blue;
+        case ZM_COLOR_CUSTOM:
+            return a.custom.color == b.custom.color && a.custom.tint == b.custom.tint;
+        case ZM_COLOR_PATTERN:
+            return a.pattern == b.pattern;
+        case ZM_COLOR_GRADIENT:
+            return a.gradient == b.gradient;
+        default:
+            return true;  // no colour, or a kind with nothing more to compare
+    }
+}
+
 ZMPathStyle ToPathStyleRecord(const document::PathStyle& style) {
     ZMPathStyle record{};
     record.fillPaint = style.fillPaint ? 1 : 0;
-    record.fill.color = ToColorRecord(style.fill);
+    record.fill = ToFillStyleRecord(style.fill);
     record.strokePaint = style.strokePaint ? 1 : 0;
     record.stroke.color = ToColorRecord(style.stroke);
     record.stroke.width = style.strokeWidth;

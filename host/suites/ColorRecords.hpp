@@ -10,6 +10,13 @@ namespace zm::host {
 // named by the model objects' addresses.
 ZMColor ToColorRecord(const document::Color& color);
 
+// A model colour as a fill style. Overprint is never set: the model has none.
+ZMFillStyle ToFillStyleRecord(const document::Color& color);
+
+// Whether two records name the same colour: the same kind and the same components, custom
+// colour and tint, pattern or gradient. What the record's other kinds would read is ignored.
+bool SameColorRecord(const ZMColor& first, const ZMColor& second);
+
 // A model path style as the suites hand it out. Overprint is never set: the model has none.
 ZMPathStyle ToPathStyleRecord(const document::PathStyle& style);
 

@@ -3,6 +3,9 @@
 
 #include "fonts/FontCatalogue.hpp"
 #include "fonts/FontNameBytes.hpp"
+#include "suites/CountedObjects.hpp"
+#include "suites/FontKeys.hpp"
+#include "suites/TextEngineObjects.hpp"
 
 #include <zelmora/ZMFontSuite.h>
 
@@ -15,7 +18,6 @@ namespace zm::host {
 namespace {
 
 constexpr const char* kSuite = ZM_FONT_SUITE_NAME;
-constexpr int32_t kMaxWeight = 1000;
 
 const fonts::CatalogueFont& RequireFont(Runtime& runtime, ZMFontKey key) {
     return runtime.fonts.RequireFont(key);
@@ -37,12 +39,7 @@ ZMErr ZM_API FindFontKey(const char* family, int32_t weight, const char* style,
                          ZMFontKey* key) {
     return GuardSuiteCall(kSuite, 0, [&](Runtime& runtime) {
         RequireArguments(family, style, key);
-        std::optional<fonts::FontSlant> slant = fonts::SlantFromText(style);
-        if (*family == '\0' || weight < 1 || weight > kMaxWeight || !slant) {
-            throw HostError(ZM_ERR_BAD_ARGUMENT, "not a font request");
-        }
-        const fonts::CatalogueFont& font = runtime.fonts.Find({family, weight, *slant});
-        *key = reinterpret_cast<ZMFontKey>(const_cast<fonts::CatalogueFont*>(&font));
+        *key = ToFontKey(FindCatalogueFont(runtime.fonts, family, weight, style));
     });
 }
 
@@ -86,6 +83,22 @@ ZMErr ZM_API GetWindowsName(ZMFontKey key, char* buffer, int32_t bufferSize) {
     });
 }
 
+ZMErr ZM_API FontKeyFromKRXFont(KRXFontRef font, ZMFontKey* key) {
+    return GuardSuiteCall(kSuite, 5, [&](Runtime& runtime) {
+        const FontObject& object = RequireObject(runtime, font);
+        RequireArguments(key);
+        *key = ToFontKey(*object.font);
+    });
+}
+
+ZMErr ZM_API KRXFontFromFontKey(ZMFontKey key, KRXFontRef* font) {
+    return GuardSuiteCall(kSuite, 6, [&](Runtime& runtime) {
+        const fonts::CatalogueFont& catalogued = RequireFont(runtime, key);
+        RequireArguments(font);
+        *font = AddCounted<KRXFontRef>(runtime, FontObject{&catalogued});
+    });
+}
+
 ZMFontSuite MakeTable() {
     ZMFontSuite table{};
     table.FindFontKey = FindFontKey;
@@ -93,6 +106,8 @@ ZMFontSuite MakeTable() {
     table.GetPostScriptName = GetPostScriptName;
     table.GetFullName = GetFullName;
     table.GetWindowsName = GetWindowsName;
+    table.FontKeyFromKRXFont = FontKeyFromKRXFont;
+    table.KRXFontFromFontKey = KRXFontFromFontKey;
     return table;
 }
 

@@ -52,6 +52,14 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterFontSuite(registry);
     RegisterFontGlueSuite(registry);
     RegisterFOConversionSuite(registry);
+    RegisterTextFrameSuite(registry);
+    RegisterKRXTextFrameSuite(registry);
+    RegisterKRXTextRangeSuite(registry);
+    RegisterKRXCharInspectorSuite(registry);
+    RegisterKRXFontSuite(registry);
+    RegisterZMKRXPaintSuite(registry);
+    RegisterKRXApplicationPaintSuite(registry);
+    RegisterKRXArraySuites(registry);
     RegisterPendingSuites(registry);
 }
 

@@ -52,6 +52,14 @@ void RegisterARMSuite(SuiteRegistry& registry);
 void RegisterFontSuite(SuiteRegistry& registry);
 void RegisterFontGlueSuite(SuiteRegistry& registry);
 void RegisterFOConversionSuite(SuiteRegistry& registry);
+void RegisterTextFrameSuite(SuiteRegistry& registry);
+void RegisterKRXTextFrameSuite(SuiteRegistry& registry);
+void RegisterKRXTextRangeSuite(SuiteRegistry& registry);
+void RegisterKRXCharInspectorSuite(SuiteRegistry& registry);
+void RegisterKRXFontSuite(SuiteRegistry& registry);
+void RegisterZMKRXPaintSuite(SuiteRegistry& registry);
+void RegisterKRXApplicationPaintSuite(SuiteRegistry& registry);
+void RegisterKRXArraySuites(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host

@@ -1,5 +1,8 @@
 #include "host/suites/SuiteFixture.hpp"
 
+#include <suites/TextEngineObjects.hpp>
+
+#include <zelmora/KRXFontSuite.h>
 #include <zelmora/ZMFontSuite.h>
 
 #include <gtest/gtest.h>
@@ -27,7 +30,10 @@ static_assert(sizeof(ZMFontInfo) == 40);
 
 class FontSuiteTest : public zm::test::SuiteFixture {
 protected:
-    void SetUp() override { Acquire(ZM_FONT_SUITE_NAME, ZM_FONT_SUITE_VERSION, fonts); }
+    void SetUp() override {
+        Acquire(ZM_FONT_SUITE_NAME, ZM_FONT_SUITE_VERSION, fonts);
+        Acquire(ZM_KRX_FONT_SUITE_NAME, ZM_KRX_FONT_SUITE_VERSION, krxFonts);
+    }
 
     ZMFontKey Key(const char* family, int32_t weight = 400, const char* style = "normal") {
         ZMFontKey key = nullptr;
@@ -50,6 +56,7 @@ protected:
     }
 
     const ZMFontSuite* fonts = nullptr;
+    const KRXFontSuite* krxFonts = nullptr;
 };
 
 TEST_F(FontSuiteTest, LiberationSansIsAnInstalledTrueTypeFont) {
@@ -133,6 +140,50 @@ TEST_F(FontSuiteTest, AForeignKeyOrAMissingBufferIsABadArgument) {
     EXPECT_EQ(fonts->GetPostScriptName(key, nullptr, 64), ZM_ERR_BAD_ARGUMENT);
     EXPECT_EQ(fonts->GetFullName(key, buffer, 0), ZM_ERR_BAD_ARGUMENT);
     EXPECT_EQ(fonts->GetWindowsName(key, buffer, -1), ZM_ERR_BAD_ARGUMENT);
+}
+
+// A key goes to the text engine and comes back the same key, installed or not.
+TEST_F(FontSuiteTest, AKeyThroughTheTextEngineComesBackTheSame) {
+    for (ZMFontKey key : {Key("Liberation Sans", 700), Key("Qwertyuiop Sans", 400, "italic")}) {
+        KRXFontRef font = nullptr;
+        ASSERT_EQ(fonts->KRXFontFromFontKey(key, &font), ZM_ERR_NONE);
+        ZMFontKey back = nullptr;
+        EXPECT_EQ(fonts->FontKeyFromKRXFont(font, &back), ZM_ERR_NONE);
+        EXPECT_EQ(back, key);
+        EXPECT_EQ(krxFonts->Release(font), ZM_ERR_NONE);
+    }
+    EXPECT_EQ(runtime.objects.Count<FontObject>(), 0u);
+}
+
+TEST_F(FontSuiteTest, EachTextEngineFontIsANewReference) {
+    ZMFontKey key = Key("Liberation Sans");
+    KRXFontRef first = nullptr;
+    KRXFontRef second = nullptr;
+    ASSERT_EQ(fonts->KRXFontFromFontKey(key, &first), ZM_ERR_NONE);
+    ASSERT_EQ(fonts->KRXFontFromFontKey(key, &second), ZM_ERR_NONE);
+    EXPECT_EQ(runtime.objects.Count<FontObject>(), 2u);
+    EXPECT_EQ(krxFonts->Release(first), ZM_ERR_NONE);
+    EXPECT_EQ(krxFonts->Release(second), ZM_ERR_NONE);
+    EXPECT_EQ(runtime.objects.Count<FontObject>(), 0u);
+}
+
+TEST_F(FontSuiteTest, ConversionsRefuseForeignHandlesAndMissingOutputs) {
+    KRXFontRef font = nullptr;
+    ZMFontKey key = nullptr;
+    EXPECT_EQ(fonts->KRXFontFromFontKey(zm::test::ForeignHandle<ZMFontKey>(), &font),
+              ZM_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(fonts->KRXFontFromFontKey(nullptr, &font), ZM_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(fonts->FontKeyFromKRXFont(zm::test::ForeignHandle<KRXFontRef>(), &key),
+              ZM_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(fonts->FontKeyFromKRXFont(nullptr, &key), ZM_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(font, nullptr);
+    EXPECT_EQ(key, nullptr);
+
+    EXPECT_EQ(fonts->KRXFontFromFontKey(Key("Liberation Sans"), nullptr), ZM_ERR_BAD_ARGUMENT);
+    ASSERT_EQ(fonts->KRXFontFromFontKey(Key("Liberation Sans"), &font), ZM_ERR_NONE);
+    EXPECT_EQ(fonts->FontKeyFromKRXFont(font, nullptr), ZM_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(krxFonts->Release(font), ZM_ERR_NONE);
+    EXPECT_EQ(runtime.objects.Size(), 0u);  // the refused call made no font
 }
 
 }  // namespace
