@@ -9,6 +9,7 @@
 #include "report/LoadTolvaneString.hpp"
 #include "shell/Globals.hpp"
 #include "shell/SuiteSet.hpp"
+#include "survey/ForeignObjectSurvey.hpp"
 #include "survey/PluginGroups.hpp"
 #include "survey/SurveyRecord.hpp"
 #include "survey/TextFrameSurvey.hpp"
@@ -73,10 +74,8 @@ ZMErr CountSymbolInstance(ZMArtHandle, PaintKind&, int32_t) {
     return ZM_ERR_NONE;
 }
 
-ZMErr CountForeignObject(ZMArtHandle, PaintKind&, int32_t) {
-    ++Record().foreignObjectCount;
-    // The fonts and contents of the object are enumerated with the text engine's collectors.
-    return ZM_ERR_NONE;
+ZMErr SurveyForeignObject(ZMArtHandle art, PaintKind&, int32_t inMask) {
+    return VisitForeignObject(art, inMask);
 }
 
 ZMErr CountChart(ZMArtHandle, PaintKind&, int32_t) {
@@ -133,7 +132,7 @@ constexpr TypeWork kTypeWork[] = {
     {ZM_ART_MESH, MeshColorsShown, CountMesh},
     {ZM_ART_TEXT_FRAME, TextShown, VisitTextFrame},
     {ZM_ART_SYMBOL_INSTANCE, nullptr, CountSymbolInstance},
-    {ZM_ART_FOREIGN_OBJECT, ForeignObjectsShown, CountForeignObject},
+    {ZM_ART_FOREIGN_OBJECT, ForeignObjectsShown, SurveyForeignObject},
     {ZM_ART_CHART, nullptr, CountChart},
 };
 
