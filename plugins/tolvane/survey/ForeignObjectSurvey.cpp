@@ -1,7 +1,7 @@
 #include "survey/ForeignObjectSurvey.hpp"
 
 #include "inventory/ColorInventory.hpp"
-#include "inventory/FontEntry.hpp"
+#include "inventory/FontInventory.hpp"
 #include "shell/Globals.hpp"
 #include "shell/SuiteSet.hpp"
 #include "survey/SurveyRecord.hpp"

@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace zm::test {
 
@@ -58,6 +59,26 @@ protected:
 
     tolvane::SurveyRecord& Record() { return tolvane::gSurvey->record; }
     tolvane::SurveyLists& Lists() { return tolvane::gSurvey->lists; }
+
+    // The texts of a list, front to back.
+    static std::vector<std::string> Entries(const tolvane::SurveyStringList& list) {
+        std::vector<std::string> texts;
+        for (const tolvane::SurveyStringNode* node = list.first; node != nullptr;
+             node = node->next) {
+            texts.push_back(Text(node->text));
+        }
+        return texts;
+    }
+
+    // "text:count" per node, front to back.
+    static std::vector<std::string> CountedEntries(const tolvane::SurveyStringList& list) {
+        std::vector<std::string> entries;
+        for (const tolvane::SurveyStringNode* node = list.first; node != nullptr;
+             node = node->next) {
+            entries.push_back(Text(node->text) + ":" + std::to_string(node->count));
+        }
+        return entries;
+    }
 
     tolvane::Globals globals{};
 };

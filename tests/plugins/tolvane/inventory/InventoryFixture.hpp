@@ -38,26 +38,6 @@ protected:
     ZMColor FillOf(const std::string& id) { return PaintOf(id).fill.color; }
     ZMColor StrokeOf(const std::string& id) { return PaintOf(id).stroke.color; }
 
-    // The texts of a list, front to back.
-    static std::vector<std::string> Entries(const tolvane::SurveyStringList& list) {
-        std::vector<std::string> texts;
-        for (const tolvane::SurveyStringNode* node = list.first; node != nullptr;
-             node = node->next) {
-            texts.push_back(Text(node->text));
-        }
-        return texts;
-    }
-
-    // "text:count" per node, front to back.
-    static std::vector<std::string> CountedEntries(const tolvane::SurveyStringList& list) {
-        std::vector<std::string> entries;
-        for (const tolvane::SurveyStringNode* node = list.first; node != nullptr;
-             node = node->next) {
-            entries.push_back(Text(node->text) + ":" + std::to_string(node->count));
-        }
-        return entries;
-    }
-
     // The six colour-model counters in the order RGB, CMYK, grayscale, spot, pattern,
     // gradient.
     std::vector<int32_t> ModelCounters() {

@@ -1,4 +1,3 @@
-#include "plugins/tolvane/inventory/InventoryFixture.hpp"
 #include "plugins/tolvane/survey/SurveyWalkFixture.hpp"
 
 #include <panel/PanelCategories.hpp>
@@ -10,8 +9,7 @@
 
 namespace {
 
-using Entries = std::vector<std::string>;
-using zm::test::InventoryFixture;
+using Texts = std::vector<std::string>;
 
 // tests/fixtures/svg/walk/foreign.svg: "note" names Liberation Sans and the missing Qwertyuiop
 // Sans, is partly transparent and paints with the spot swatch "Signal Red" and the process
@@ -29,10 +27,11 @@ TEST_F(ForeignObjectSurveyTest, InTheFontsCategoryTheContentsFontsAreListedOnce)
     const tolvane::SurveyRecord& record = Survey(tolvane::kModeFonts);
     EXPECT_EQ(record.foreignObjectCount, 2);
     EXPECT_EQ(record.pathCount, 0);  // the box is not even matched
-    // Liberation Sans is a TrueType font, offered by both objects: one entry, offered twice.
-    // The family no program has is named from the family and flagged as not installed.
-    EXPECT_EQ(InventoryFixture::CountedEntries(Lists().fontList),
-              (Entries{"LiberationSans (TrueType):2", "QwertyuiopSans (not installed):1"}));
+    // Liberation Sans is a TrueType font, offered by both objects: a font already listed
+    // changes nothing, so one entry whose count stays 1. The family no program has is named
+    // from the family and flagged as not installed.
+    EXPECT_EQ(CountedEntries(Lists().fontList),
+              (Texts{"LiberationSans (TrueType):1", "QwertyuiopSans (not installed):1"}));
     EXPECT_EQ(record.fontCount, 2);
 }
 
@@ -52,8 +51,8 @@ TEST_F(ForeignObjectSurveyTest, EachSwatchOfTheContentRaisesItsModelsCounter) {
 TEST_F(ForeignObjectSurveyTest, TheSpotColorCategoryListsTheContentsSpotSwatchOnce) {
     const tolvane::SurveyRecord& record = Survey(tolvane::kModeSpotColors);
     // The swatch's colour is RGB, so its entry says so; met twice, listed and counted once.
-    EXPECT_EQ(InventoryFixture::CountedEntries(Lists().spotColorList),
-              (Entries{"Signal Red (RGB):1"}));
+    EXPECT_EQ(CountedEntries(Lists().spotColorList),
+              (Texts{"Signal Red (RGB):1"}));
     EXPECT_EQ(record.spotObjectCount, 2);  // once per object whose content uses it
     EXPECT_EQ(record.foreignObjectCount, 2);
 }
@@ -72,8 +71,8 @@ TEST_F(ForeignObjectSurveyTest, WhileSavingEverythingIsGathered) {
     const tolvane::SurveyRecord& record = Survey(tolvane::kModeLinkedImages);
     EXPECT_EQ(record.foreignObjectCount, 2);
     EXPECT_EQ(record.fontCount, 2);
-    EXPECT_EQ(InventoryFixture::CountedEntries(Lists().spotColorList),
-              (Entries{"Signal Red (RGB):1"}));
+    EXPECT_EQ(CountedEntries(Lists().spotColorList),
+              (Texts{"Signal Red (RGB):1"}));
     globals.saving = 0;
 }
 
