@@ -6,7 +6,9 @@
 namespace zm::host::images {
 
 // The document's colour space for an image's pixels: its model's process space, or an
-// indexed space over it for a palette image. Alpha is no part of a colour space.
+// indexed space over it for a palette image; for named inks a separation of the one ink, or
+// a DeviceN space of one separation per ink, each ink shown as CMYK. Alpha is no part of a
+// colour space.
 const document::ColorSpace& ImageColorSpace(document::ColorSpaceStore& store,
                                             const RasterHeader& header);
 

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 namespace zm::host::images {
 
-// The colours an image's pixels, or its palette's entries, are made of.
-enum class PixelModel { Gray, Rgb, Cmyk, Lab };
+// The colours an image's pixels, or its palette's entries, are made of. Inks: named inks of
+// the printer's, one channel each (see RasterHeader::inks).
+enum class PixelModel { Gray, Rgb, Cmyk, Lab, Inks };
 
 // What an image file's header says about its pixels; the pixels themselves are never read.
 struct RasterHeader {
@@ -16,6 +19,7 @@ struct RasterHeader {
     bool alpha = false;    // one of the stored channels is alpha
     // Every stored channel counted, alpha included; an indexed image's bits per index.
     int32_t bitsPerPixel = 0;
+    std::vector<std::string> inks;  // PixelModel::Inks: the inks' names, UTF-8, channel order
 
     bool operator==(const RasterHeader&) const = default;
 };

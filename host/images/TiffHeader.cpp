@@ -1,15 +1,17 @@
 #include "images/TiffHeader.hpp"
 
-#include "images/ImageDecodeError.hpp"
-
 #include <tiffio.h>
 
-#include <cstdarg>
 #include <climits>
+#include <cstdarg>
 #include <cstdio>
 #include <memory>
 #include <new>
 #include <string>
+#include <utility>
+#include <vector>
+
+#include "images/ImageDecodeError.hpp"
 
 namespace zm::host::images {
 
@@ -77,31 +79,59 @@ struct PhotometricModel {
     PixelModel model;
     uint16_t colorChannels;
     bool indexed;
+    std::vector<std::string> inks;  // PixelModel::Inks only
 };
+
+// The names of the InkNames tag, in channel order; none when the file has no such tag.
+// libtiff has checked that the tag holds NUL-terminated names and counted them.
+std::vector<std::string> InkNamesOf(TIFF* tiff) {
+    const char* names = nullptr;
+    uint16_t count = 0;
+    if (TIFFGetField(tiff, TIFFTAG_INKNAMES, &names) == 0 || names == nullptr ||
+        TIFFGetField(tiff, TIFFTAG_NUMBEROFINKS, &count) == 0) {
+        return {};
+    }
+    std::vector<std::string> inks;
+    for (uint16_t i = 0; i < count; ++i) {
+        inks.emplace_back(names);
+        names += inks.back().size() + 1;
+    }
+    return inks;
+}
+
+// Separated pixels are CMYK when the ink set says so, or says nothing and no inks are
+// named; otherwise each channel is the ink the InkNames tag names for it.
+PhotometricModel SeparatedModelOf(TIFF* tiff) {
+    uint16_t inkSet = 0;
+    const bool inkSetGiven = TIFFGetField(tiff, TIFFTAG_INKSET, &inkSet) != 0;
+    std::vector<std::string> inks = InkNamesOf(tiff);
+    if ((inkSetGiven && inkSet == INKSET_CMYK) || (!inkSetGiven && inks.empty())) {
+        return {PixelModel::Cmyk, 4, false, {}};
+    }
+    if ((inkSetGiven && inkSet != INKSET_MULTIINK) || inks.empty()) {
+        throw ImageDecodeError(ImageFault::Unrecognized,
+                               "TIFF: separated pixels whose inks are not named");
+    }
+    const auto channels = static_cast<uint16_t>(inks.size());
+    return {PixelModel::Inks, channels, false, std::move(inks)};
+}
 
 PhotometricModel ModelOf(TIFF* tiff, uint16_t photometric) {
     switch (photometric) {
         case PHOTOMETRIC_MINISWHITE:
         case PHOTOMETRIC_MINISBLACK:
-            return {PixelModel::Gray, 1, false};
+            return {PixelModel::Gray, 1, false, {}};
         case PHOTOMETRIC_RGB:
         case PHOTOMETRIC_YCBCR:
-            return {PixelModel::Rgb, 3, false};
+            return {PixelModel::Rgb, 3, false, {}};
         case PHOTOMETRIC_PALETTE:
-            return {PixelModel::Rgb, 1, true};
-        case PHOTOMETRIC_SEPARATED: {
-            uint16_t inkSet = INKSET_CMYK;
-            TIFFGetFieldDefaulted(tiff, TIFFTAG_INKSET, &inkSet);
-            if (inkSet != INKSET_CMYK) {
-                throw ImageDecodeError(ImageFault::Unrecognized,
-                                       "TIFF: an ink set other than CMYK");
-            }
-            return {PixelModel::Cmyk, 4, false};
-        }
+            return {PixelModel::Rgb, 1, true, {}};
+        case PHOTOMETRIC_SEPARATED:
+            return SeparatedModelOf(tiff);
         case PHOTOMETRIC_CIELAB:
         case PHOTOMETRIC_ICCLAB:
         case PHOTOMETRIC_ITULAB:
-            return {PixelModel::Lab, 3, false};
+            return {PixelModel::Lab, 3, false, {}};
         default:
             throw ImageDecodeError(ImageFault::Unrecognized, "TIFF: unknown photometric");
     }
@@ -162,6 +192,7 @@ RasterHeader ReadTiffHeader(std::FILE* stream) {
     header.indexed = colours.indexed;
     header.alpha = HasAlphaSample(tiff.get());
     header.bitsPerPixel = static_cast<int32_t>(samplesPerPixel) * bitsPerSample;
+    header.inks = std::move(colours.inks);
     return header;
 }
 

@@ -8,8 +8,8 @@ namespace zm::host {
 
 namespace {
 
-ZMRasterColorSpace CodeOf(images::PixelModel model) {
-    switch (model) {
+ZMRasterColorSpace CodeOf(const images::RasterHeader& header) {
+    switch (header.model) {
         case images::PixelModel::Gray:
             return ZM_RASTER_GRAY;
         case images::PixelModel::Rgb:
@@ -18,6 +18,8 @@ ZMRasterColorSpace CodeOf(images::PixelModel model) {
             return ZM_RASTER_CMYK;
         case images::PixelModel::Lab:
             return ZM_RASTER_LAB;
+        case images::PixelModel::Inks:
+            return header.inks.size() == 1 ? ZM_RASTER_SEPARATION : ZM_RASTER_DEVICE_N;
     }
     return ZM_RASTER_UNKNOWN;
 }
@@ -29,8 +31,8 @@ ZMRasterRecord ToRasterRecord(const images::RasterHeader& header) {
     // CheckDescribable has kept both sides and the bits far inside their fields' ranges.
     record.right = static_cast<int32_t>(header.width);
     record.bottom = static_cast<int32_t>(header.height);
-    record.colorSpace = static_cast<ZMRasterColorSpace>(CodeOf(header.model) +
-                                                        (header.alpha ? ZM_RASTER_ALPHA : 0));
+    record.colorSpace =
+        static_cast<ZMRasterColorSpace>(CodeOf(header) + (header.alpha ? ZM_RASTER_ALPHA : 0));
     record.bitsPerPixel = static_cast<int16_t>(header.bitsPerPixel);
     return record;
 }

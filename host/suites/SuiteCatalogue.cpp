@@ -51,6 +51,7 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterARMSuite(registry);
     RegisterFontSuite(registry);
     RegisterFontGlueSuite(registry);
+    RegisterFOConversionSuite(registry);
     RegisterTextFrameSuite(registry);
     RegisterKRXTextFrameSuite(registry);
     RegisterKRXTextRangeSuite(registry);

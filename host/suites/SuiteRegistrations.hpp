@@ -51,6 +51,7 @@ void RegisterRasterSuite(SuiteRegistry& registry);
 void RegisterARMSuite(SuiteRegistry& registry);
 void RegisterFontSuite(SuiteRegistry& registry);
 void RegisterFontGlueSuite(SuiteRegistry& registry);
+void RegisterFOConversionSuite(SuiteRegistry& registry);
 void RegisterTextFrameSuite(SuiteRegistry& registry);
 void RegisterKRXTextFrameSuite(SuiteRegistry& registry);
 void RegisterKRXTextRangeSuite(SuiteRegistry& registry);

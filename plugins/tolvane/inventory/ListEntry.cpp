@@ -5,8 +5,8 @@
 namespace tolvane {
 
 ZMErr InsertOrAlert(SurveyStringList& list, ZMUnicodeString text, int32_t alertCode,
-                    const char* place) {
-    if (LinkStrAdd(list, text, false) == ZM_ERR_NONE) {
+                    const char* place, bool allowRepeat) {
+    if (LinkStrAdd(list, text, allowRepeat) == ZM_ERR_NONE) {
         return ZM_ERR_NONE;
     }
     ShowErrorAlert(kAlertError, kAlertMessageList, kAlertOutOfMemory, alertCode, place);

@@ -5,8 +5,8 @@
 
 namespace tolvane {
 
-NumberFormatter::NumberFormatter() {
-    zm::Check(sStringFormatUtilsSuite->NewNumberFormat(ZM_NUMBER_FORMAT_DEFAULT, &format_));
+NumberFormatter::NumberFormatter(int32_t options) {
+    zm::Check(sStringFormatUtilsSuite->NewNumberFormat(options, &format_));
 }
 
 NumberFormatter::~NumberFormatter() { sStringFormatUtilsSuite->DisposeNumberFormat(format_); }
@@ -14,6 +14,12 @@ NumberFormatter::~NumberFormatter() { sStringFormatUtilsSuite->DisposeNumberForm
 HostString NumberFormatter::Integer(int32_t value) const {
     HostString text = HostString::Empty();
     zm::Check(sStringFormatUtilsSuite->FormatInteger(format_, value, text.Get()));
+    return text;
+}
+
+HostString NumberFormatter::Real(double value, int32_t decimals) const {
+    HostString text = HostString::Empty();
+    zm::Check(sStringFormatUtilsSuite->FormatReal(format_, value, decimals, text.Get()));
     return text;
 }
 

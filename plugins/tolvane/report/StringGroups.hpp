@@ -34,6 +34,33 @@ inline constexpr int16_t kOtherNone = 6;
 inline constexpr int16_t kOtherCountFormat = 8;  // "%s: %d"
 inline constexpr int16_t kOtherTooLong = 9;
 
+inline constexpr int16_t kDocumentUrl = 7;  // "URL:"
+
+// ResImage: the words and labels of image descriptions.
+inline constexpr int16_t kImageUnknown = 3;  // "(Unknown image)"
+inline constexpr int16_t kImageType = 4;     // "Type: "
+inline constexpr int16_t kImageEps = 5;
+inline constexpr int16_t kImageBitmap = 6;  // "Black & White Bitmap"
+inline constexpr int16_t kImageGrayscale = 7;
+inline constexpr int16_t kImageRgb = 8;
+inline constexpr int16_t kImageCmyk = 9;
+inline constexpr int16_t kImageTransparentGray = 10;
+inline constexpr int16_t kImageTransparentRgb = 11;
+inline constexpr int16_t kImageTransparentCmyk = 12;
+inline constexpr int16_t kImageBits = 13;        // "Bits per Pixel: "
+inline constexpr int16_t kImageChannels = 14;    // "Channels: "
+inline constexpr int16_t kImageSize = 15;        // "Size: "
+inline constexpr int16_t kImageKilobytes = 16;   // "K, "
+inline constexpr int16_t kImageSizeBy = 17;      // " by "
+inline constexpr int16_t kImagePixels = 18;      // " pixels"
+inline constexpr int16_t kImageDimensions = 19;  // "Dimensions: "
+inline constexpr int16_t kImageDimensionsBy = 20;
+inline constexpr int16_t kImagePoints = 21;  // " points ", with its trailing blank
+inline constexpr int16_t kImageResolution = 22;
+inline constexpr int16_t kImageResolutionBy = 23;
+inline constexpr int16_t kImagePixelsPerInch = 24;
+inline constexpr int16_t kImageOther = 25;
+
 inline constexpr int16_t kTitleDocument = 1;
 inline constexpr int16_t kTitleSpotColors = 2;
 inline constexpr int16_t kTitlePatterns = 3;

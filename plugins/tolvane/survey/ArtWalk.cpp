@@ -2,6 +2,7 @@
 
 #include "inventory/CategoryGate.hpp"
 #include "inventory/ColorInventory.hpp"
+#include "inventory/ImageInventory.hpp"
 #include "inventory/StyleInventory.hpp"
 #include "panel/PanelCategories.hpp"
 #include "report/Error.hpp"
@@ -40,6 +41,22 @@ ZMErr CountCompoundPath(ZMArtHandle, PaintKind&, int32_t) {
 
 ZMErr SurveyPluginGroup(ZMArtHandle art, PaintKind&, int32_t) { return ClassifyPluginGroup(art); }
 
+// Placed art whose file is an image the host reads is described as an image; any other file
+// by its path and type.
+ZMErr SurveyPlaced(ZMArtHandle art, PaintKind&, int32_t) {
+    ZMRasterRecord info{};
+    info.colorSpace = ZM_RASTER_UNKNOWN;
+    info.bitsPerPixel = 0;
+    int32_t isRaster = 0;
+    if (ZMErr error = sPlacedSuite->GetPlacedRasterInfo(art, &info, &isRaster);
+        error != ZM_ERR_NONE) {
+        return error;
+    }
+    return isRaster != 0 ? AddRasterArt(art, 1) : AddPlacedArt(art);
+}
+
+ZMErr SurveyRaster(ZMArtHandle art, PaintKind&, int32_t) { return AddRasterArt(art, 0); }
+
 // Each colour of the mesh joins one set of marks kept for the whole mesh, and every mark set
 // so far is counted again after each colour: a mesh of three colours, the first RGB, counts
 // three RGB objects. What the colours cannot tell is no reason to stop the survey.
@@ -71,6 +88,15 @@ bool ObjectsShown() { return ShownOrSaving({kModeObjects}); }
 
 bool MeshColorsShown() { return ShownOrSaving({kModeObjects, kModeSpotColors}); }
 
+bool PlacedImagesShown() {
+    return ShownOrSaving({kModeObjects, kModeLinkedImages, kModeEmbeddedImages});
+}
+
+// Rasters also show in the spot colour category, for the spot inks of their colour spaces.
+bool RasterImagesShown() {
+    return ShownOrSaving({kModeObjects, kModeSpotColors, kModeLinkedImages, kModeEmbeddedImages});
+}
+
 bool ForeignObjectsShown() {
     return ShownOrSaving({kModeObjects, kModeSpotColors, kModeFonts, kModeFontDetails});
 }
@@ -93,7 +119,8 @@ constexpr TypeWork kTypeWork[] = {
     {ZM_ART_UNKNOWN, nullptr, CountGraph},
     {ZM_ART_PATH, ObjectsShown, SurveyPath},
     {ZM_ART_COMPOUND_PATH, nullptr, CountCompoundPath},
-    // Placed art is described by the image collectors, raster art by the raster collector.
+    {ZM_ART_PLACED, PlacedImagesShown, SurveyPlaced},
+    {ZM_ART_RASTER, RasterImagesShown, SurveyRaster},
     {ZM_ART_PLUGIN_GROUP, ObjectsShown, SurveyPluginGroup},
     {ZM_ART_MESH, MeshColorsShown, CountMesh},
     // Text frames are surveyed with the text engine.

@@ -69,8 +69,9 @@ typedef struct ZMRasterSuite {
        it was. */
     ZMErr(ZM_API *GetRasterInfo)(ZMArtHandle raster, ZMRasterRecord *info);
     /* 1: the image's colour space, a space of the document (see the colour space suite): gray,
-       RGB, Lab or CMYK, an indexed space over the palette's RGB. An alpha channel is not part
-       of it. ZM_ERR_BAD_RASTER as 0. */
+       RGB, Lab or CMYK, an indexed space over the palette's RGB; for named inks a separation
+       of the one ink, or DeviceN with one separation member per ink, each ink's alternate
+       CMYK. An alpha channel is not part of it. ZM_ERR_BAD_RASTER as 0. */
     ZMErr(ZM_API *GetRasterColorSpace)(ZMArtHandle raster, ZMColorSpaceHandle *space);
     /* 2: link->file must be a path the caller made; ZM_ERR_BAD_ARGUMENT otherwise. */
     ZMErr(ZM_API *GetRasterLink)(ZMArtHandle raster, ZMRasterLink *link);

@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace zm::test {
 namespace {
 
@@ -41,6 +45,36 @@ TEST(ImageColorSpaceTest, AlphaIsNoPartOfTheSpace) {
     EXPECT_EQ(&ImageColorSpace(store, Header(1, 1, PixelModel::Rgb, 32, false, true)),
               &ImageColorSpace(store, Header(1, 1, PixelModel::Rgb, 24)));
     EXPECT_EQ(store.Size(), 1u);
+}
+
+host::images::RasterHeader InkHeader(std::vector<std::string> inks) {
+    host::images::RasterHeader header =
+        Header(1, 1, PixelModel::Inks, static_cast<int32_t>(inks.size()) * 8);
+    header.inks = std::move(inks);
+    return header;
+}
+
+TEST(ImageColorSpaceTest, OneNamedInkIsASeparationShownAsCmyk) {
+    ColorSpaceStore store;
+    const ColorSpace& space = ImageColorSpace(store, InkHeader({"Orange"}));
+    EXPECT_EQ(space.family, ColorSpaceFamily::Separation);
+    EXPECT_EQ(space.colorants, (std::vector<std::string>{"Orange"}));
+    ASSERT_NE(space.base, nullptr);
+    EXPECT_EQ(space.base, &ImageColorSpace(store, Header(1, 1, PixelModel::Cmyk, 32)));
+}
+
+// The same ink twice is the same separation twice.
+TEST(ImageColorSpaceTest, SeveralNamedInksAreDeviceNOfOneSeparationAnInk) {
+    ColorSpaceStore store;
+    const ColorSpace& space = ImageColorSpace(store, InkHeader({"Gray", "Orange", "Gray"}));
+    EXPECT_EQ(space.family, ColorSpaceFamily::DeviceN);
+    EXPECT_EQ(space.colorants, (std::vector<std::string>{"Gray", "Orange", "Gray"}));
+    ASSERT_EQ(space.members.size(), 3u);
+    EXPECT_EQ(space.members[0], &ImageColorSpace(store, InkHeader({"Gray"})));
+    EXPECT_EQ(space.members[1], &ImageColorSpace(store, InkHeader({"Orange"})));
+    EXPECT_EQ(space.members[2], space.members[0]);
+    // Asked again, the same space.
+    EXPECT_EQ(&space, &ImageColorSpace(store, InkHeader({"Gray", "Orange", "Gray"})));
 }
 
 }  // namespace

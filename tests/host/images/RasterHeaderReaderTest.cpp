@@ -83,7 +83,8 @@ bool EndsCleanly(const std::string& bytes) {
 const char* const kEveryFixture[] = {
     "rgb-640x480.png", "bitmap-1000x1000.png", "rgb16-100x50.png", "palette-4x2.png",
     "rgba-20x10.png",  "cmyk-16x8.jpg",        "gray-9x9.jpg",     "color-8x16.jpg",
-    "cmyk-3x2.tif",    "palette-5x3.tif",
+    "cmyk-3x2.tif",    "palette-5x3.tif",      "inks-gray-orange-gray-4x2.tif",
+    "ink-orange-6x4.tif",
 };
 
 TEST(RasterHeaderReaderTest, EveryPrefixOfEveryImageEndsCleanly) {

@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace zm::host {
 namespace {
 
@@ -40,6 +44,25 @@ TEST(RasterRecordsTest, AlphaAddsSixteen) {
     EXPECT_EQ(RecordOf(PixelModel::Rgb, true, 32).colorSpace, 17);
     EXPECT_EQ(RecordOf(PixelModel::Cmyk, true, 40).colorSpace, 18);
     EXPECT_EQ(RecordOf(PixelModel::Lab, true, 32).colorSpace, 19);
+}
+
+ZMRasterRecord InkRecordOf(std::vector<std::string> inks, bool alpha) {
+    images::RasterHeader header;
+    header.width = 7;
+    header.height = 3;
+    header.model = PixelModel::Inks;
+    header.alpha = alpha;
+    header.bitsPerPixel = static_cast<int32_t>(inks.size() + (alpha ? 1 : 0)) * 8;
+    header.inks = std::move(inks);
+    return ToRasterRecord(header);
+}
+
+// One ink is a separation (4), several DeviceN (5); alpha adds 16 as for the others.
+TEST(RasterRecordsTest, NamedInksAreASeparationOrDeviceN) {
+    EXPECT_EQ(InkRecordOf({"Orange"}, false).colorSpace, 4);
+    EXPECT_EQ(InkRecordOf({"Gray", "Orange"}, false).colorSpace, 5);
+    EXPECT_EQ(InkRecordOf({"Orange"}, true).colorSpace, 20);
+    EXPECT_EQ(InkRecordOf({"Gray", "Orange", "Gray"}, true).colorSpace, 21);
 }
 
 TEST(RasterRecordsTest, AnIndexedImageHasItsPalettesCode) {

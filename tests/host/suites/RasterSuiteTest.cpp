@@ -103,6 +103,34 @@ TEST_F(RasterSuiteTest, ACmykJpegsColourSpaceIsCmykAndTheSameSpaceEveryTime) {
     EXPECT_EQ(first, second);
 }
 
+// Three inks of 8 bits: DeviceN (5), 24 bits; its space one separation member an ink.
+TEST_F(RasterSuiteTest, AnImageOfNamedInksIsDeviceNOfOneSeparationAnInk) {
+    ZMArtHandle linked = LinkedRaster("inks-gray-orange-gray-4x2.tif");
+    ZMRasterRecord record = Unset();
+    EXPECT_EQ(raster->GetRasterInfo(linked, &record), ZM_ERR_NONE);
+    EXPECT_EQ(record, Record(4, 2, ZM_RASTER_DEVICE_N, 24));
+    ZMColorSpaceHandle space = nullptr;
+    EXPECT_EQ(raster->GetRasterColorSpace(linked, &space), ZM_ERR_NONE);
+    EXPECT_EQ(Family(space), ZM_COLOR_SPACE_DEVICE_N);
+    int32_t members = 0;
+    EXPECT_EQ(spaces->CountColorSpaceMembers(space, &members), ZM_ERR_NONE);
+    ASSERT_EQ(members, 3);
+    ZMColorSpaceHandle first = nullptr;
+    EXPECT_EQ(spaces->GetNthColorSpaceMember(space, 0, &first), ZM_ERR_NONE);
+    EXPECT_EQ(Family(first), ZM_COLOR_SPACE_SEPARATION);
+}
+
+// One ink: a separation (4) of 8 bits.
+TEST_F(RasterSuiteTest, AnImageOfOneNamedInkIsASeparation) {
+    ZMArtHandle linked = LinkedRaster("ink-orange-6x4.tif");
+    ZMRasterRecord record = Unset();
+    EXPECT_EQ(raster->GetRasterInfo(linked, &record), ZM_ERR_NONE);
+    EXPECT_EQ(record, Record(6, 4, ZM_RASTER_SEPARATION, 8));
+    ZMColorSpaceHandle space = nullptr;
+    EXPECT_EQ(raster->GetRasterColorSpace(linked, &space), ZM_ERR_NONE);
+    EXPECT_EQ(Family(space), ZM_COLOR_SPACE_SEPARATION);
+}
+
 TEST_F(RasterSuiteTest, NoImageIsColorized) {
     int32_t colorized = -1;
     EXPECT_EQ(raster->GetColorizedFlag(LinkedRaster("bitmap-1000x1000.png"), &colorized),
