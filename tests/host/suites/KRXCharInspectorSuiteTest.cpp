@@ -1,9 +1,14 @@
 #include "host/suites/TextEngineFixture.hpp"
 
+#include "support/DocumentBuilder.hpp"
+
 #include <suites/TextEngineObjects.hpp>
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace zm::host {
@@ -12,7 +17,25 @@ namespace {
 using Keys = std::vector<ZMFontKey>;
 using Sizes = std::vector<double>;
 
-class KRXCharInspectorSuiteTest : public zm::test::TextEngineFixture {};
+class KRXCharInspectorSuiteTest : public zm::test::TextEngineFixture {
+protected:
+    // A document built by hand with one point text frame "built" holding these runs.
+    void OpenRuns(std::vector<document::TextRun> runs) {
+        document::Document& built = Open();
+        document::Art& frame = zm::test::AddArt(*zm::test::AddLayer(built, "Layer 1").root,
+                                                document::ArtType::TextFrame, "built");
+        frame.text = std::make_unique<document::TextFrame>();
+        frame.text->runs = std::move(runs);
+    }
+
+    static document::TextRun Run(std::string text, std::string family, double size) {
+        document::TextRun run;
+        run.text = std::move(text);
+        run.fontFamily = std::move(family);
+        run.fontSize = size;
+        return run;
+    }
+};
 
 // Each run's family, weight and style go to the catalogue as FindFontKey takes them, so the
 // keys are the ones a plug-in finds for the same requests.
@@ -75,6 +98,36 @@ TEST_F(KRXCharInspectorSuiteTest, ARunWithoutFillAddsOnlyItsStroke) {
     std::vector<ZMFillStyle> strokes = StrokesOf("outlined");
     ASSERT_EQ(strokes.size(), 1u);
     zm::test::ExpectRgb(strokes[0], 0, 1, 0);  // "Hollow": #00ff00
+}
+
+// No character has the font, size or paint of a run without text.
+TEST_F(KRXCharInspectorSuiteTest, ARunWithoutCharactersAddsNothing) {
+    document::TextRun empty = Run("", "Qwertyuiop Sans", 30);
+    empty.paint.fillPaint = true;
+    empty.paint.fill = document::Color::Rgb(0, 1, 0);
+    document::TextRun full = Run("Text", "Liberation Sans", 10);
+    full.paint.fillPaint = true;
+    full.paint.fill = document::Color::Rgb(1, 0, 0);
+    OpenRuns({empty, full});
+    EXPECT_EQ(FontKeysOf("built"), (Keys{Key("Liberation Sans")}));
+    EXPECT_EQ(FontSizesOf("built"), (Sizes{10}));
+    std::vector<ZMFillStyle> fills = FillsOf("built");
+    ASSERT_EQ(fills.size(), 1u);
+    zm::test::ExpectRgb(fills[0], 1, 0, 0);
+}
+
+// A run whose weight no font request can have is no font: the fonts cannot be listed, and no
+// array is left behind.
+TEST_F(KRXCharInspectorSuiteTest, ARunThatNamesNoPossibleFontFailsTheFonts) {
+    document::TextRun heavy = Run("Text", "Liberation Sans", 10);
+    heavy.weight = 5000;
+    OpenRuns({Run("Fine", "Liberation Sans", 10), heavy});
+    KRXCharInspectorRef inspector = InspectorOf("built");
+    KRXArrayFontRefRef array = nullptr;
+    EXPECT_EQ(inspectors->GetFont(inspector, &array), ZM_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(array, nullptr);
+    EXPECT_EQ(runtime.objects.Count<FontObject>(), 0u);
+    EXPECT_EQ(inspectors->Release(inspector), ZM_ERR_NONE);
 }
 
 // The array holds the only reference to each font it hands out: they go with it, unless the

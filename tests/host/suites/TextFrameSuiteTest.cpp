@@ -1,5 +1,7 @@
 #include "host/suites/TextEngineFixture.hpp"
 
+#include "support/DocumentBuilder.hpp"
+
 #include <zelmora/ZMArtStyleSuite.h>
 #include <zelmora/ZMBlendStyleSuite.h>
 #include <zelmora/ZMMaskSuite.h>
@@ -133,6 +135,25 @@ TEST_F(TextFrameSuiteTest, TheEnginesObjectsOutliveTheDocument) {
     ZMArtType type = -2;
     EXPECT_EQ(art->GetArtType(path, &type), ZM_ERR_BAD_ARGUMENT);
     EXPECT_EQ(textFrames->GetTextPathObject(path, &path), ZM_ERR_BAD_ARGUMENT);
+}
+
+// Built by hand: text frame art that holds no text is an empty point text.
+TEST_F(TextFrameSuiteTest, AFrameWithoutContentIsAnEmptyPointText) {
+    document::Document& built = Open();
+    zm::test::AddArt(*zm::test::AddLayer(built, "Layer 1").root, document::ArtType::TextFrame,
+                     "bare");
+    KRXTextFrameRef frame = nullptr;
+    ASSERT_EQ(textFrames->GetKRXTextFrame(Frame("bare"), &frame), ZM_ERR_NONE);
+    KRXFrameType type = -1;
+    EXPECT_EQ(frames->GetType(frame, &type), ZM_ERR_NONE);
+    EXPECT_EQ(type, KRX_FRAME_TYPE_POINT);
+    EXPECT_EQ(frames->Release(frame), ZM_ERR_NONE);
+    KRXTextRangeRef range = RangeOf("bare");
+    int32_t size = -1;
+    EXPECT_EQ(ranges->GetSize(range, &size), ZM_ERR_NONE);
+    EXPECT_EQ(size, 0);
+    EXPECT_EQ(ranges->Release(range), ZM_ERR_NONE);
+    EXPECT_EQ(PathOf("bare"), nullptr);
 }
 
 TEST_F(TextFrameSuiteTest, ArtOfAnotherTypeIsTheWrongType) {
