@@ -75,6 +75,13 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterKRXCharStyleSuites(registry);
     RegisterKRXGlyphSuites(registry);
     RegisterKRXGlyphRunSuites(registry);
+    RegisterKRXKinsokuSuites(registry);
+    RegisterKRXMojiKumiSuites(registry);
+    RegisterKRXCompFontSuites(registry);
+    RegisterKRXTabStopSuites(registry);
+    RegisterKRXSpellSuite(registry);
+    RegisterKRXVersionInfoSuite(registry);
+    RegisterKRXTextResourcesSuites(registry);
     RegisterPendingSuites(registry);
 }
 

@@ -75,6 +75,13 @@ void RegisterKRXCharFeaturesSuite(SuiteRegistry& registry);
 void RegisterKRXCharStyleSuites(SuiteRegistry& registry);
 void RegisterKRXGlyphSuites(SuiteRegistry& registry);
 void RegisterKRXGlyphRunSuites(SuiteRegistry& registry);
+void RegisterKRXKinsokuSuites(SuiteRegistry& registry);
+void RegisterKRXMojiKumiSuites(SuiteRegistry& registry);
+void RegisterKRXCompFontSuites(SuiteRegistry& registry);
+void RegisterKRXTabStopSuites(SuiteRegistry& registry);
+void RegisterKRXSpellSuite(SuiteRegistry& registry);
+void RegisterKRXVersionInfoSuite(SuiteRegistry& registry);
+void RegisterKRXTextResourcesSuites(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host
