@@ -36,4 +36,8 @@ int32_t FontProgram::DesignAxisCount() const {
     return count;
 }
 
+uint32_t FontProgram::GlyphIndex(uint32_t codePoint) const {
+    return FT_Get_Char_Index(face_, codePoint);
+}
+
 }  // namespace zm::host::fonts

@@ -24,6 +24,10 @@ public:
     // Design axes of a multiple-master or variable font, 0 for any other.
     int32_t DesignAxisCount() const;
 
+    // The glyph the face's character map gives a Unicode code point; 0, the missing glyph,
+    // when it maps none.
+    uint32_t GlyphIndex(uint32_t codePoint) const;
+
 private:
     FT_LibraryRec_* library_ = nullptr;
     FT_FaceRec_* face_ = nullptr;

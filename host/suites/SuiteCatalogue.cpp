@@ -60,6 +60,28 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterZMKRXPaintSuite(registry);
     RegisterKRXApplicationPaintSuite(registry);
     RegisterKRXArraySuites(registry);
+    RegisterKRXStoriesSuite(registry);
+    RegisterKRXStorySuite(registry);
+    RegisterKRXTextRangesSuite(registry);
+    RegisterKRXTextRangeIteratorSuites(registry);
+    RegisterKRXFindSuite(registry);
+    RegisterKRXParagraphSuites(registry);
+    RegisterKRXParaFeaturesSuite(registry);
+    RegisterKRXParaInspectorSuite(registry);
+    RegisterKRXParaStyleSuites(registry);
+    RegisterKRXTextLineSuites(registry);
+    RegisterKRXTextFramesIteratorSuite(registry);
+    RegisterKRXCharFeaturesSuite(registry);
+    RegisterKRXCharStyleSuites(registry);
+    RegisterKRXGlyphSuites(registry);
+    RegisterKRXGlyphRunSuites(registry);
+    RegisterKRXKinsokuSuites(registry);
+    RegisterKRXMojiKumiSuites(registry);
+    RegisterKRXCompFontSuites(registry);
+    RegisterKRXTabStopSuites(registry);
+    RegisterKRXSpellSuite(registry);
+    RegisterKRXVersionInfoSuite(registry);
+    RegisterKRXTextResourcesSuites(registry);
     RegisterPendingSuites(registry);
 }
 

@@ -60,6 +60,28 @@ void RegisterKRXFontSuite(SuiteRegistry& registry);
 void RegisterZMKRXPaintSuite(SuiteRegistry& registry);
 void RegisterKRXApplicationPaintSuite(SuiteRegistry& registry);
 void RegisterKRXArraySuites(SuiteRegistry& registry);
+void RegisterKRXStoriesSuite(SuiteRegistry& registry);
+void RegisterKRXStorySuite(SuiteRegistry& registry);
+void RegisterKRXTextRangesSuite(SuiteRegistry& registry);
+void RegisterKRXTextRangeIteratorSuites(SuiteRegistry& registry);
+void RegisterKRXFindSuite(SuiteRegistry& registry);
+void RegisterKRXParagraphSuites(SuiteRegistry& registry);
+void RegisterKRXParaFeaturesSuite(SuiteRegistry& registry);
+void RegisterKRXParaInspectorSuite(SuiteRegistry& registry);
+void RegisterKRXParaStyleSuites(SuiteRegistry& registry);
+void RegisterKRXTextLineSuites(SuiteRegistry& registry);
+void RegisterKRXTextFramesIteratorSuite(SuiteRegistry& registry);
+void RegisterKRXCharFeaturesSuite(SuiteRegistry& registry);
+void RegisterKRXCharStyleSuites(SuiteRegistry& registry);
+void RegisterKRXGlyphSuites(SuiteRegistry& registry);
+void RegisterKRXGlyphRunSuites(SuiteRegistry& registry);
+void RegisterKRXKinsokuSuites(SuiteRegistry& registry);
+void RegisterKRXMojiKumiSuites(SuiteRegistry& registry);
+void RegisterKRXCompFontSuites(SuiteRegistry& registry);
+void RegisterKRXTabStopSuites(SuiteRegistry& registry);
+void RegisterKRXSpellSuite(SuiteRegistry& registry);
+void RegisterKRXVersionInfoSuite(SuiteRegistry& registry);
+void RegisterKRXTextResourcesSuites(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host

@@ -3,11 +3,16 @@
 #include "fonts/FontCatalogue.hpp"
 #include "suites/CountedObjects.hpp"
 #include "suites/EngineText.hpp"
+#include "suites/EngineValueObjects.hpp"
 
 #include <zelmora/KRXTypes.h>
 #include <zelmora/ZMArtTypes.h>
 
+#include <cstdint>
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace zm::host {
 
@@ -35,12 +40,83 @@ struct ApplicationPaintObject {
     ZMFillStyle style{};
 };
 
-// Composition rules and tab stops. The engine hands none of these out yet, so an array of them
-// takes only what a suite of theirs will make.
-struct KinsokuObject {};
-struct MojiKumiObject {};
-struct MojiKumiSetObject {};
-struct TabStopsObject {};
+// A story: the text of one frame (frames are never linked here).
+struct StoryObject {
+    std::shared_ptr<const EngineText> text;
+};
+
+struct ParagraphObject {
+    std::shared_ptr<const EngineText> text;
+};
+
+// The host does not wrap text, so a line is a paragraph of its frame.
+struct TextLineObject {
+    std::shared_ptr<const EngineText> text;
+};
+
+struct ParaInspectorObject {
+    std::shared_ptr<const EngineText> text;
+};
+
+// A feature without a value is unassigned: it takes its value from elsewhere.
+struct ParaFeaturesObject {
+    std::optional<int32_t> justification;
+};
+
+struct CharFeaturesObject {
+    const fonts::CatalogueFont* font = nullptr;  // null: unassigned
+    std::optional<double> fontSize;              // points
+    std::optional<ZMFillStyle> fill;
+};
+
+struct ParaStyleObject {
+    std::string name;  // UTF-8
+    ParaFeaturesObject features;
+};
+
+struct CharStyleObject {
+    std::string name;  // UTF-8
+    CharFeaturesObject features;
+};
+
+// Glyph 0 is the font's missing glyph, which a font that is not installed gives for all.
+struct GlyphObject {
+    const fonts::CatalogueFont* font = nullptr;
+    KRXGlyphID glyph = 0;
+};
+
+// The glyphs of one run of a line, one per character: the host composes no ligatures.
+struct GlyphRunObject {
+    const fonts::CatalogueFont* font = nullptr;
+    double fontSize = 12;  // points
+    std::vector<KRXGlyphID> glyphs;
+    std::shared_ptr<const EngineText> text;
+};
+
+struct TabStopObject {
+    double position = 0;  // points from the paragraph's start edge
+};
+
+// The host has no dictionary: a spell checker knows no word to be wrong.
+struct SpellObject {};
+
+using StoriesObject = ValueListObject<KRXStoriesRef, StoryObject>;
+using TextRangesObject = ValueListObject<KRXTextRangesRef, TextRangeObject>;
+using ParaStylesObject = ValueListObject<KRXParaStylesRef, ParaStyleObject>;
+using CharStylesObject = ValueListObject<KRXCharStylesRef, CharStyleObject>;
+using GlyphsObject = ValueListObject<KRXGlyphsRef, GlyphObject>;
+using TabStopsObject = ValueListObject<KRXTabStopsRef, TabStopObject>;
+
+// Composition rules, known by name.
+using KinsokuObject = NamedObject<KRXKinsokuRef>;
+using MojiKumiObject = NamedObject<KRXMojiKumiRef>;
+using CompFontObject = NamedObject<KRXCompFontRef>;
+using CompFontClassObject = NamedObject<KRXCompFontClassRef>;
+using CompFontComponentObject = NamedObject<KRXCompFontComponentRef>;
+using KinsokuSetObject = ValueListObject<KRXKinsokuSetRef, KinsokuObject>;
+using MojiKumiSetObject = ValueListObject<KRXMojiKumiSetRef, MojiKumiObject>;
+using CompFontSetObject = ValueListObject<KRXCompFontSetRef, CompFontObject>;
+using CompFontClassSetObject = ValueListObject<KRXCompFontClassSetRef, CompFontClassObject>;
 
 template <>
 struct ObjectOfRef<KRXTextFrameRef> {
@@ -77,6 +153,98 @@ struct ObjectOfRef<KRXMojiKumiSetRef> {
 template <>
 struct ObjectOfRef<KRXTabStopsRef> {
     using type = TabStopsObject;
+};
+template <>
+struct ObjectOfRef<KRXStoryRef> {
+    using type = StoryObject;
+};
+template <>
+struct ObjectOfRef<KRXStoriesRef> {
+    using type = StoriesObject;
+};
+template <>
+struct ObjectOfRef<KRXTextRangesRef> {
+    using type = TextRangesObject;
+};
+template <>
+struct ObjectOfRef<KRXParagraphRef> {
+    using type = ParagraphObject;
+};
+template <>
+struct ObjectOfRef<KRXTextLineRef> {
+    using type = TextLineObject;
+};
+template <>
+struct ObjectOfRef<KRXParaInspectorRef> {
+    using type = ParaInspectorObject;
+};
+template <>
+struct ObjectOfRef<KRXParaFeaturesRef> {
+    using type = ParaFeaturesObject;
+};
+template <>
+struct ObjectOfRef<KRXCharFeaturesRef> {
+    using type = CharFeaturesObject;
+};
+template <>
+struct ObjectOfRef<KRXParaStyleRef> {
+    using type = ParaStyleObject;
+};
+template <>
+struct ObjectOfRef<KRXCharStyleRef> {
+    using type = CharStyleObject;
+};
+template <>
+struct ObjectOfRef<KRXParaStylesRef> {
+    using type = ParaStylesObject;
+};
+template <>
+struct ObjectOfRef<KRXCharStylesRef> {
+    using type = CharStylesObject;
+};
+template <>
+struct ObjectOfRef<KRXGlyphRef> {
+    using type = GlyphObject;
+};
+template <>
+struct ObjectOfRef<KRXGlyphsRef> {
+    using type = GlyphsObject;
+};
+template <>
+struct ObjectOfRef<KRXGlyphRunRef> {
+    using type = GlyphRunObject;
+};
+template <>
+struct ObjectOfRef<KRXTabStopRef> {
+    using type = TabStopObject;
+};
+template <>
+struct ObjectOfRef<KRXSpellRef> {
+    using type = SpellObject;
+};
+template <>
+struct ObjectOfRef<KRXCompFontRef> {
+    using type = CompFontObject;
+};
+template <>
+struct ObjectOfRef<KRXCompFontClassRef> {
+    using type = CompFontClassObject;
+};
+template <>
+struct ObjectOfRef<KRXCompFontComponentRef> {
+    using type = CompFontComponentObject;
+};
+template <>
+struct ObjectOfRef<KRXKinsokuSetRef> {
+    using type = KinsokuSetObject;
+};
+template <>
+struct ObjectOfRef<KRXCompFontSetRef> {
+    using type = CompFontSetObject;
+};
+template <>
+struct ObjectOfRef<KRXCompFontClassSetRef> {
+    using type = CompFontClassSetObject;
 };
 
 // The object a reference names; HostError(ZM_ERR_BAD_ARGUMENT) for null, for one the host

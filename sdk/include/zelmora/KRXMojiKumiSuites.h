@@ -1,5 +1,6 @@
 #pragma once
 /* Text-engine mojikumi: character spacing rules for Japanese text. */
+#include "KRXTypes.h"
 #include "ZMTypes.h"
 
 #ifdef __cplusplus
@@ -11,6 +12,10 @@ extern "C" {
 
 #define ZM_KRX_MOJI_KUMI_SET_SUITE_NAME    "KRX MojiKumiSet Suite"
 #define ZM_KRX_MOJI_KUMI_SET_SUITE_VERSION 1
+
+/* The host composes no Japanese text, so its rules hold a name and nothing else. */
+KRX_NAMED_SUITE(MojiKumi)
+KRX_NAMED_SET_SUITE(MojiKumiSet, KRXMojiKumiRef)
 
 #ifdef __cplusplus
 }

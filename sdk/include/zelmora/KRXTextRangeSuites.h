@@ -26,6 +26,20 @@ typedef struct KRXTextRangeSuite {
 #define ZM_KRX_TEXT_RANGES_SUITE_NAME    "KRX TextRanges Suite"
 #define ZM_KRX_TEXT_RANGES_SUITE_VERSION 1
 
+/* A list of ranges. The list holds copies: Append copies the range, Item hands out a new range
+   over the copy's text. */
+typedef struct KRXTextRangesSuite {
+    /* 0: a new, empty list */
+    ZMErr(ZM_API *Create)(KRXTextRangesRef *ranges);
+    /* 1 */ ZMErr(ZM_API *AddRef)(KRXTextRangesRef ranges);
+    /* 2 */ ZMErr(ZM_API *Release)(KRXTextRangesRef ranges);
+    /* 3 */ ZMErr(ZM_API *GetSize)(KRXTextRangesRef ranges, int32_t *size);
+    /* 4: index outside 0..size-1 is ZM_ERR_BAD_ARGUMENT */
+    ZMErr(ZM_API *Item)(KRXTextRangesRef ranges, int32_t index, KRXTextRangeRef *range);
+    /* 5: adds a copy of the range at the end */
+    ZMErr(ZM_API *Append)(KRXTextRangesRef ranges, KRXTextRangeRef range);
+} KRXTextRangesSuite;
+
 #define ZM_KRX_TEXT_RANGES_ITERATOR_SUITE_NAME    "KRX TextRangesIterator Suite"
 #define ZM_KRX_TEXT_RANGES_ITERATOR_SUITE_VERSION 1
 
@@ -34,6 +48,15 @@ typedef struct KRXTextRangeSuite {
 
 #define ZM_KRX_WORDS_ITERATOR_SUITE_NAME    "KRX WordsIterator Suite"
 #define ZM_KRX_WORDS_ITERATOR_SUITE_VERSION 1
+
+/* The ranges of a list, in list order. */
+KRX_ITERATOR_SUITE(TextRangesIterator, KRXTextRangesRef, KRXTextRangeRef)
+/* The runs of a range: each a sub-range whose characters share one font, size and paint, in
+   text order; a run without characters is skipped. */
+KRX_ITERATOR_SUITE(TextRunsIterator, KRXTextRangeRef, KRXTextRangeRef)
+/* The words of a range as the Unicode word rules find them, each a sub-range; blanks and
+   punctuation between words are no words. */
+KRX_ITERATOR_SUITE(WordsIterator, KRXTextRangeRef, KRXTextRangeRef)
 
 #ifdef __cplusplus
 }
