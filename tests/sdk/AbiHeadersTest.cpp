@@ -110,6 +110,9 @@ static_assert(sizeof(ZMFOContentItem) == 16);
 static_assert(offsetof(KRXArrayFontRefSuite, Item) == 6 * 8);
 static_assert(offsetof(KRXCharInspectorSuite, GetStrokeColor) == 5 * 8);
 static_assert(offsetof(ZMFontSuite, FontKeyFromKRXFont) == 5 * 8);
+// Usage data: operations 1 and 2 are called by position.
+static_assert(offsetof(ZMQuorvelPIPSuite, BeginGroup) == 1 * 8);
+static_assert(offsetof(ZMQuorvelPIPSuite, AddEntry) == 2 * 8);
 
 static_assert(offsetof(ZMNotifierMessage, notifier) == 32);
 static_assert(offsetof(ZMNotifierMessage, type) == 40);

@@ -35,7 +35,7 @@ const ZMColorConversionSuite* sOverrideColorConversionSuite = nullptr;
 const ZMPathSuite* sPathSuite = nullptr;
 const ZMPathStyleSuite* sPathStyleSuite = nullptr;
 const ZMPatternSuite* sPatternSuite = nullptr;
-const void* sQuorvelPipSuite = nullptr;
+const ZMQuorvelPIPSuite* sQuorvelPipSuite = nullptr;
 const ZMPlacedSuite* sPlacedSuite = nullptr;
 const ZMPluginGroupSuite* sPluginGroupSuite = nullptr;
 const ZMPreferenceSuite* sPreferenceSuite = nullptr;
@@ -187,7 +187,7 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_PATH_SUITE_NAME, ZM_PATH_SUITE_VERSION, Target(&sPathSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_PATH_STYLE_SUITE_NAME, ZM_PATH_STYLE_SUITE_VERSION, Target(&sPathStyleSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_PATTERN_SUITE_NAME, ZM_PATTERN_SUITE_VERSION, Target(&sPatternSuite)},
-    {ZM_SUITE_KIND_REQUIRED, ZM_QUORVEL_PIP_SUITE_NAME, ZM_QUORVEL_PIP_SUITE_VERSION, &sQuorvelPipSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_QUORVEL_PIP_SUITE_NAME, ZM_QUORVEL_PIP_SUITE_VERSION, Target(&sQuorvelPipSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_PLACED_SUITE_NAME, ZM_PLACED_SUITE_VERSION, Target(&sPlacedSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_PLUGIN_GROUP_SUITE_NAME, ZM_PLUGIN_GROUP_SUITE_VERSION, Target(&sPluginGroupSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_PREFERENCE_SUITE_NAME, ZM_PREFERENCE_SUITE_VERSION, Target(&sPreferenceSuite)},

@@ -107,7 +107,7 @@ extern const ZMColorConversionSuite* sOverrideColorConversionSuite;
 extern const ZMPathSuite* sPathSuite;
 extern const ZMPathStyleSuite* sPathStyleSuite;
 extern const ZMPatternSuite* sPatternSuite;
-extern const void* sQuorvelPipSuite;
+extern const ZMQuorvelPIPSuite* sQuorvelPipSuite;
 extern const ZMPlacedSuite* sPlacedSuite;
 extern const ZMPluginGroupSuite* sPluginGroupSuite;
 extern const ZMPreferenceSuite* sPreferenceSuite;
