@@ -59,7 +59,7 @@ HostString BrushEntryText(ZMBrushHandle brush) {
 ZMErr ListBrush(ZMBrushHandle brush) {
     return zm::CodeOrNoMemory([&]() -> ZMErr {
         HostString entry = BrushEntryText(brush);
-        SurveyStringList& brushes = gSurvey->lists.brushList;
+        SurveyStringList& brushes = CollectingSurvey().lists.brushList;
         if (entry.Get() == nullptr || LinkStrFind(brushes, entry.Get())) {
             return ZM_ERR_NONE;
         }
@@ -90,7 +90,7 @@ ZMErr CheckForBrush(ZMStyleParser parser) {
             continue;
         }
         // Once per brushed stroke: an object with two brushed strokes counts twice.
-        ++gSurvey->record.brushedObjectCount;
+        ++CollectingSurvey().record.brushedObjectCount;
         if (!ShownOrSaving({kModeBrushes})) {
             continue;
         }

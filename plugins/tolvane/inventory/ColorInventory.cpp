@@ -73,7 +73,7 @@ ZMErr AddCustomColor(const ZMColor& color, PaintKind& marks, int32_t skipSolid) 
 }
 
 ZMErr AddMarksToCounters(PaintKind marks) {
-    SurveyRecord& record = gSurvey->record;
+    SurveyRecord& record = CollectingSurvey().record;
     // The order the counters are raised in: RGB, CMYK, grayscale, spot, pattern, gradient.
     const std::array<std::pair<PaintKind, int32_t*>, 6> counters{{
         {kPaintRgb, &record.rgbObjectCount},

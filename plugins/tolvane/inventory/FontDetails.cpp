@@ -114,7 +114,7 @@ void FormatBlock(ZMFontKey key, Block& block) {
 void AppendLine(const std::string& line) {
     ZMErr error = zm::CodeOrNoMemory([&] {
         HostString text = MakeUnicodeFromBytes(line.c_str(), ZM_ENCODING_PLATFORM);
-        return LinkStrAppend(gSurvey->lists.fontDetailList, text.Get(), true);
+        return LinkStrAppend(CollectingSurvey().lists.fontDetailList, text.Get(), true);
     });
     if (error != ZM_ERR_NONE) {
         ShowErrorAlert(kAlertError, kAlertMessageList, kAlertOutOfMemory, kAlertIdFont,

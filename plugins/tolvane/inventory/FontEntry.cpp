@@ -53,12 +53,12 @@ ZMErr AddFont(ZMFontKey key) {
         entry.Append(LoadTolvaneString(ResFontType, FontTypeIndex(info)));
         // The whole text decides: a font met again under the same name and type is the
         // same entry, one of the same name but another type a new one.
-        SurveyStringList& fonts = gSurvey->lists.fontList;
+        SurveyStringList& fonts = CollectingSurvey().lists.fontList;
         if (LinkStrFind(fonts, entry.Get())) {
             return ZM_ERR_NONE;
         }
         // Counted before it is listed: the count stands when the list cannot take it.
-        ++gSurvey->record.fontCount;
+        ++CollectingSurvey().record.fontCount;
         if (ZMErr error = InsertOrAlert(fonts, entry.Get(), kAlertIdFont, "AddFont:LinkStrAdd");
             error != ZM_ERR_NONE) {
             return error;

@@ -149,7 +149,7 @@ ZMErr AddGradient(ZMGradientHandle gradient) {
         HostString entry = NamePart(gradient);
         AppendTypePart(gradient, entry);
         entry.Append(LoadTolvaneString(ResGradient, ModelPart(gradient)));
-        SurveyStringList& gradients = gSurvey->lists.gradientList;
+        SurveyStringList& gradients = CollectingSurvey().lists.gradientList;
         if (LinkStrFind(gradients, entry.Get())) {
             return ZM_ERR_NONE;
         }

@@ -36,7 +36,7 @@ ZMErr SurveyTopLevelText(ZMArtHandle definition, PaintKind& marks, int32_t skipS
 ZMErr AddPattern(ZMPatternHandle pattern, PaintKind& marks, int32_t skipSolid) {
     return zm::CodeOrNoMemory([&]() -> ZMErr {
         HostString name = FetchName(sPatternSuite->GetPatternName, pattern);
-        SurveyStringList& patterns = gSurvey->lists.patternList;
+        SurveyStringList& patterns = CollectingSurvey().lists.patternList;
         // A pattern is examined the first time its name is met in a survey only.
         if (LinkStrFind(patterns, name.Get())) {
             return ZM_ERR_NONE;

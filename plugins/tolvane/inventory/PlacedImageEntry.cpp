@@ -29,7 +29,7 @@ ZMErr AddPlacedArt(ZMArtHandle placed) {
             sPlacedSuite->GetPlacedFilePath(placed, file.Get());
             ImagePathText(file.Get(), path);
         }
-        SurveyStringList& linked = gSurvey->lists.linkedImageList;
+        SurveyStringList& linked = CollectingSurvey().lists.linkedImageList;
         if (LinkStrFind(linked, path.Get())) {
             return ZM_ERR_NONE;  // each file is described once
         }
@@ -37,7 +37,7 @@ ZMErr AddPlacedArt(ZMArtHandle placed) {
             AppendEntry(linked, path) != ZM_ERR_NONE) {
             return ZM_ERR_NO_MEMORY;
         }
-        ++gSurvey->record.linkedImageCount;
+        ++CollectingSurvey().record.linkedImageCount;
         ZMPlacedType type = ZM_PLACED_TYPE_OTHER;
         if (ZMErr error = sPlacedSuite->GetPlacedType(placed, &type); error != ZM_ERR_NONE) {
             return error;

@@ -19,7 +19,7 @@ constexpr const char* kListPlace = "AddRasterArt:LinkStrAdd";
 // An embedded block is listed every time, so two copies of one image show twice; a linked
 // block once, however often its file is placed alike.
 ZMErr RecordBlock(const RasterImageBlock& block) {
-    Survey& survey = *gSurvey;
+    Survey& survey = CollectingSurvey();
     if (!block.linked) {
         if (ZMErr error = InsertOrAlert(survey.lists.embeddedImageList, block.text.Get(),
                                         kAlertIdImage, kListPlace, true);

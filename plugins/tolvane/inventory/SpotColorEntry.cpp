@@ -39,7 +39,7 @@ ZMErr AddSpotColorEntry(ZMCustomColorHandle color, ZMErr code, const char* label
             entry.Append(blank);
             entry.Append(LoadTolvaneString(key));
         }
-        SurveyStringList& spots = gSurvey->lists.spotColorList;
+        SurveyStringList& spots = CollectingSurvey().lists.spotColorList;
         if (LinkStrFind(spots, entry.Get())) {
             return ZM_ERR_NONE;
         }

@@ -30,8 +30,8 @@ private:
 // A named graphic style counts the object and lists the name, or raises its count. A list
 // that cannot take the name is shown, and the survey goes on.
 void CountNamedStyle(ZMUnicodeString name) {
-    ++gSurvey->record.styledObjectCount;
-    InsertOrAlert(gSurvey->lists.graphicStyleList, name, kAlertIdStyle, "CheckStyle:LinkStrAdd");
+    ++CollectingSurvey().record.styledObjectCount;
+    InsertOrAlert(CollectingSurvey().lists.graphicStyleList, name, kAlertIdStyle, "CheckStyle:LinkStrAdd");
 }
 
 // A plain style: its fill and stroke, then its blending read from the blend style suite.

@@ -33,7 +33,7 @@ void CountTransparency(int16_t artType, ZMBlendingMode mode, double opacity) {
     if (mode == ZM_BLEND_NORMAL && opacity == 1.0) {
         return;
     }
-    SurveyRecord& record = gSurvey->record;
+    SurveyRecord& record = CollectingSurvey().record;
     if (artType == ZM_ART_GROUP) {
         ++record.transparentGroupCount;
     } else {

@@ -8,7 +8,7 @@ const PXMBasicSuite* sPxmBasicSuite = nullptr;
 const ZMMenuSuite* sMenuSuite = nullptr;
 const ZMNotifierSuite* sNotifierSuite = nullptr;
 const ZMArtSuite* sArtSuite = nullptr;
-const void* sArtboardSuite = nullptr;
+const ZMArtboardSuite* sArtboardSuite = nullptr;
 const ZMArtStyleSuite* sArtStyleSuite = nullptr;
 const ZMArtStyleParserSuite* sArtStyleParserSuite = nullptr;
 const ZMBlendStyleSuite* sBlendStyleSuite = nullptr;
@@ -53,8 +53,8 @@ const void* sHvBlocksSuite = nullptr;
 const ZMTextFrameSuite* sTextFrameSuite = nullptr;
 const ZMFOConversionSuite* sFoConversionSuite = nullptr;
 const ZMContextSuite* sContextSuite = nullptr;
-const void* sLiveCornersSuite = nullptr;
-const void* sRealMathSuite = nullptr;
+const ZMLiveCornersSuite* sLiveCornersSuite = nullptr;
+const ZMRealMathSuite* sRealMathSuite = nullptr;
 const void* sCountedObjectSuite = nullptr;
 const ZMKRXPaintSuite* sZmkrxPaintSuite = nullptr;
 const KRXApplicationPaintSuite* sKrxApplicationPaintSuite = nullptr;
@@ -160,7 +160,7 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_FRAMEWORK, ZM_MENU_SUITE_NAME, ZM_MENU_SUITE_VERSION, Target(&sMenuSuite)},
     {ZM_SUITE_KIND_FRAMEWORK, ZM_NOTIFIER_SUITE_NAME, ZM_NOTIFIER_SUITE_VERSION, Target(&sNotifierSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_ART_SUITE_NAME, ZM_ART_SUITE_VERSION, Target(&sArtSuite)},
-    {ZM_SUITE_KIND_REQUIRED, ZM_ARTBOARD_SUITE_NAME, ZM_ARTBOARD_SUITE_VERSION, &sArtboardSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_ARTBOARD_SUITE_NAME, ZM_ARTBOARD_SUITE_VERSION, Target(&sArtboardSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_ART_STYLE_SUITE_NAME, ZM_ART_STYLE_SUITE_VERSION, Target(&sArtStyleSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_ART_STYLE_PARSER_SUITE_NAME, ZM_ART_STYLE_PARSER_SUITE_VERSION, Target(&sArtStyleParserSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_BLEND_STYLE_SUITE_NAME, ZM_BLEND_STYLE_SUITE_VERSION, Target(&sBlendStyleSuite)},
@@ -205,8 +205,8 @@ const ZMSuiteDeclaration kRequiredSuites[] = {
     {ZM_SUITE_KIND_REQUIRED, ZM_TEXT_FRAME_SUITE_NAME, ZM_TEXT_FRAME_SUITE_VERSION, Target(&sTextFrameSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_FO_CONVERSION_SUITE_NAME, ZM_FO_CONVERSION_SUITE_VERSION, Target(&sFoConversionSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_CONTEXT_SUITE_NAME, ZM_CONTEXT_SUITE_VERSION, Target(&sContextSuite)},
-    {ZM_SUITE_KIND_REQUIRED, ZM_LIVE_CORNERS_SUITE_NAME, ZM_LIVE_CORNERS_SUITE_VERSION, &sLiveCornersSuite},
-    {ZM_SUITE_KIND_REQUIRED, ZM_REAL_MATH_SUITE_NAME, ZM_REAL_MATH_SUITE_VERSION, &sRealMathSuite},
+    {ZM_SUITE_KIND_REQUIRED, ZM_LIVE_CORNERS_SUITE_NAME, ZM_LIVE_CORNERS_SUITE_VERSION, Target(&sLiveCornersSuite)},
+    {ZM_SUITE_KIND_REQUIRED, ZM_REAL_MATH_SUITE_NAME, ZM_REAL_MATH_SUITE_VERSION, Target(&sRealMathSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_COUNTED_OBJECT_SUITE_NAME, ZM_COUNTED_OBJECT_SUITE_VERSION, &sCountedObjectSuite},
     {ZM_SUITE_KIND_REQUIRED, ZM_ZMKRX_PAINT_SUITE_NAME, ZM_ZMKRX_PAINT_SUITE_VERSION, Target(&sZmkrxPaintSuite)},
     {ZM_SUITE_KIND_REQUIRED, ZM_KRX_APPLICATION_PAINT_SUITE_NAME, ZM_KRX_APPLICATION_PAINT_SUITE_VERSION, Target(&sKrxApplicationPaintSuite)},

@@ -21,7 +21,7 @@ namespace {
 // Flatness for path lengths, in points.
 constexpr double kPathLengthFlatness = 0.5;
 
-SurveyRecord& Record() { return gSurvey->record; }
+SurveyRecord& Record() { return CollectingSurvey().record; }
 
 ZMErr CountGraph(ZMArtHandle art, PaintKind&, int32_t) {
     ZMBool isGraph = 0;
@@ -138,8 +138,8 @@ constexpr TypeWork kTypeWork[] = {
 
 // The mask art and everything it holds, depth first; a plug-in group is entered through its
 // result group, which is not visited itself.
-ZMErr WalkMaskArt(ZMArtHandle art, PaintKind& paintKinds) {
-    if (ZMErr error = VisitArt(art, paintKinds, 1); error != ZM_ERR_NONE) {
+ZMErr WalkMaskArt(ZMArtHandle art, PaintKind& paintKinds, ArtVisitor visit) {
+    if (ZMErr error = visit(art, paintKinds, 1); error != ZM_ERR_NONE) {
         return error;
     }
     ZMArtType type = ZM_ART_UNKNOWN;
@@ -158,7 +158,7 @@ ZMErr WalkMaskArt(ZMArtHandle art, PaintKind& paintKinds) {
         return error;
     }
     while (child != nullptr) {
-        if (ZMErr error = WalkMaskArt(child, paintKinds); error != ZM_ERR_NONE) {
+        if (ZMErr error = WalkMaskArt(child, paintKinds, visit); error != ZM_ERR_NONE) {
             return error;
         }
         if (ZMErr error = sArtSuite->GetArtSibling(child, &child); error != ZM_ERR_NONE) {
@@ -305,7 +305,7 @@ ZMErr VisitPath(ZMArtHandle art) {
     return ZM_ERR_NONE;
 }
 
-ZMErr VisitMaskedArt(ZMArtHandle art, PaintKind& paintKinds) {
+ZMErr VisitMaskedArt(ZMArtHandle art, PaintKind& paintKinds, ArtVisitor visit) {
     ZMMaskHandle mask = nullptr;
     if (ZMErr error = sMaskSuite->GetMask(art, &mask); error != ZM_ERR_NONE) {
         return error;
@@ -317,7 +317,7 @@ ZMErr VisitMaskedArt(ZMArtHandle art, PaintKind& paintKinds) {
     ZMArtHandle maskArt = nullptr;
     ZMErr error = sMaskSuite->GetMaskArt(mask, &maskArt);
     if (error == ZM_ERR_NONE && maskArt != nullptr) {
-        error = WalkMaskArt(maskArt, paintKinds);
+        error = WalkMaskArt(maskArt, paintKinds, visit);
     }
     sMaskSuite->ReleaseMask(mask);
     return error;

@@ -21,7 +21,11 @@ ZMErr VisitArt(ZMArtHandle art, PaintKind& paintKinds, int32_t inMask);
 // Counts a path, its anchor points, whether it is open, its length and whether it clips.
 ZMErr VisitPath(ZMArtHandle art);
 
-// Counts the art's opacity mask and surveys what the mask is made of.
-ZMErr VisitMaskedArt(ZMArtHandle art, PaintKind& paintKinds);
+// How one art object is surveyed; VisitArt for the panel's survey.
+using ArtVisitor = ZMErr (*)(ZMArtHandle art, PaintKind& paintKinds, int32_t inMask);
+
+// Counts the art's opacity mask and surveys what the mask is made of, each object of it
+// through visit with inMask 1.
+ZMErr VisitMaskedArt(ZMArtHandle art, PaintKind& paintKinds, ArtVisitor visit = VisitArt);
 
 }  // namespace tolvane

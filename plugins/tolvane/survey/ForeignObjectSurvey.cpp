@@ -18,7 +18,7 @@ ZMErr ZM_API CountContentItem(void* inMask, const ZMFOContentItem* item) {
     switch (item->kind) {
     case ZM_FO_CONTENT_TRANSPARENCY:
         if (item->value.flag != 0) {
-            ++gSurvey->record.transparentObjectCount;
+            ++CollectingSurvey().record.transparentObjectCount;
         }
         return ZM_ERR_NONE;
     case ZM_FO_CONTENT_CUSTOM_COLOR: {
@@ -41,7 +41,7 @@ ZMErr ZM_API CountContentItem(void* inMask, const ZMFOContentItem* item) {
 }  // namespace
 
 ZMErr VisitForeignObject(ZMArtHandle art, int32_t inMask) {
-    ++gSurvey->record.foreignObjectCount;
+    ++CollectingSurvey().record.foreignObjectCount;
     if (sFoConversionSuite->EnumerateFonts(art, OfferFont, nullptr) == ZM_ERR_NONE) {
         sFoConversionSuite->EnumerateContents(art, CountContentItem, &inMask);
     }

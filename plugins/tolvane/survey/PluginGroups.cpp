@@ -58,7 +58,7 @@ ZMErr CountTracingObject(ZMArtHandle art) {
     ZMBool isTracing = 0;
     ZMErr error = vectorize->IsTracingArt(art, &isTracing);
     if (error == ZM_ERR_NONE && isTracing != 0) {
-        ++gSurvey->record.tracingObjectCount;
+        ++CollectingSurvey().record.tracingObjectCount;
     }
     sBasicSuite->ReleaseSuite(ZM_VECTORIZE_SUITE_NAME, ZM_VECTORIZE_SUITE_VERSION);
     return error;
@@ -84,7 +84,7 @@ ZMErr ClassifyPluginGroup(ZMArtHandle art) {
     for (const PluginCounter& known : kPluginCounters) {
         if (std::strcmp(name, known.pluginName) == 0) {
             if (known.counter != nullptr) {
-                ++(gSurvey->record.*known.counter);
+                ++(CollectingSurvey().record.*known.counter);
             }
             return ZM_ERR_NONE;
         }
@@ -122,7 +122,7 @@ ZMErr IsSymbolSetGroup(ZMArtHandle art, int32_t& isSet) {
     }
     if (name != nullptr && std::strcmp(name, kSymbolismPlugin) == 0) {
         isSet = 1;
-        ++gSurvey->record.symbolSetCount;
+        ++CollectingSurvey().record.symbolSetCount;
     }
     return ZM_ERR_NONE;
 }

@@ -11,6 +11,9 @@ namespace {
 
 ZMMdMemoryHandle sSurveyHandle = nullptr;
 
+// Null: the collectors write to the panel's survey.
+Survey* sCollectingTarget = nullptr;
+
 }  // namespace
 
 void AddPoints(SurveyRecord& record, int32_t segments) {
@@ -76,5 +79,15 @@ void ResetSurvey(bool freeLists) {
         gSurvey->lists = SurveyLists{};
     }
 }
+
+Survey& CollectingSurvey() {
+    return sCollectingTarget != nullptr ? *sCollectingTarget : *gSurvey;
+}
+
+CollectInto::CollectInto(Survey& target) : previous_(sCollectingTarget) {
+    sCollectingTarget = &target;
+}
+
+CollectInto::~CollectInto() { sCollectingTarget = previous_; }
 
 }  // namespace tolvane

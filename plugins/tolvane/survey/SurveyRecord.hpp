@@ -79,4 +79,21 @@ void FreeSurvey();
 // nodes yet).
 void ResetSurvey(bool freeLists);
 
+// The survey the walk and the collectors write to: the panel's, except inside a
+// CollectInto scope.
+Survey& CollectingSurvey();
+
+// Sends the walk and the collectors to another survey while it lives, so a run that keeps
+// its own counts (the close-time statistics) leaves the panel's survey as it was.
+class CollectInto {
+public:
+    explicit CollectInto(Survey& target);
+    ~CollectInto();
+    CollectInto(const CollectInto&) = delete;
+    CollectInto& operator=(const CollectInto&) = delete;
+
+private:
+    Survey* previous_;
+};
+
 }  // namespace tolvane

@@ -13,33 +13,6 @@ namespace tolvane {
 
 namespace {
 
-// Point, area and path text each have a counter; a kind the engine adds later has none.
-ZMErr CountFrameKind(ZMArtHandle art) {
-    TextEngineReference<KRXTextFrameRef> frame(sKrxTextFrameSuite->Release);
-    if (ZMErr error = sTextFrameSuite->GetKRXTextFrame(art, frame.Out()); error != ZM_ERR_NONE) {
-        return error;
-    }
-    KRXFrameType kind = KRX_FRAME_TYPE_POINT;
-    if (ZMErr error = sKrxTextFrameSuite->GetType(frame.Get(), &kind); error != ZM_ERR_NONE) {
-        return error;
-    }
-    SurveyRecord& record = gSurvey->record;
-    switch (kind) {
-        case KRX_FRAME_TYPE_POINT:
-            ++record.pointTypeCount;
-            break;
-        case KRX_FRAME_TYPE_IN_PATH:
-            ++record.areaTypeCount;
-            break;
-        case KRX_FRAME_TYPE_ON_PATH:
-            ++record.pathTypeCount;
-            break;
-        default:
-            break;
-    }
-    return ZM_ERR_NONE;
-}
-
 // Every font of the text, in the engine's order; the font list leaves out repeats. A font
 // the catalogue cannot name or list is no reason to stop surveying the frame.
 ZMErr OfferFonts(KRXCharInspectorRef inspector) {
@@ -102,14 +75,57 @@ ZMErr ClassifyPaints(PaintArrayEntry entry, KRXCharInspectorRef inspector, Paint
     return ZM_ERR_NONE;
 }
 
+// The frame's character inspector, for its fonts and paints.
+ZMErr GetInspector(ZMArtHandle art, TextEngineReference<KRXCharInspectorRef>& inspector) {
+    TextEngineReference<KRXTextRangeRef> range(sKrxTextRangeSuite->Release);
+    if (ZMErr error = sTextFrameSuite->GetKRXTextRange(art, range.Out()); error != ZM_ERR_NONE) {
+        return error;
+    }
+    return sKrxTextRangeSuite->GetCharInspector(range.Get(), inspector.Out());
+}
+
 }  // namespace
+
+ZMErr CountFrameKind(ZMArtHandle art) {
+    TextEngineReference<KRXTextFrameRef> frame(sKrxTextFrameSuite->Release);
+    if (ZMErr error = sTextFrameSuite->GetKRXTextFrame(art, frame.Out()); error != ZM_ERR_NONE) {
+        return error;
+    }
+    KRXFrameType kind = KRX_FRAME_TYPE_POINT;
+    if (ZMErr error = sKrxTextFrameSuite->GetType(frame.Get(), &kind); error != ZM_ERR_NONE) {
+        return error;
+    }
+    SurveyRecord& record = CollectingSurvey().record;
+    switch (kind) {
+        case KRX_FRAME_TYPE_POINT:
+            ++record.pointTypeCount;
+            break;
+        case KRX_FRAME_TYPE_IN_PATH:
+            ++record.areaTypeCount;
+            break;
+        case KRX_FRAME_TYPE_ON_PATH:
+            ++record.pathTypeCount;
+            break;
+        default:
+            break;
+    }
+    return ZM_ERR_NONE;
+}
+
+ZMErr OfferFrameFonts(ZMArtHandle art) {
+    TextEngineReference<KRXCharInspectorRef> inspector(sKrxCharInspectorSuite->Release);
+    if (ZMErr error = GetInspector(art, inspector); error != ZM_ERR_NONE) {
+        return error;
+    }
+    return OfferFonts(inspector.Get());
+}
 
 ZMErr VisitTextFrame(ZMArtHandle art, PaintKind& paintKinds, int32_t inMask) {
     TextEngineReference<KRXTextRangeRef> range(sKrxTextRangeSuite->Release);
     if (ZMErr error = sTextFrameSuite->GetKRXTextRange(art, range.Out()); error != ZM_ERR_NONE) {
         return error;
     }
-    ++gSurvey->record.typeObjectCount;
+    ++CollectingSurvey().record.typeObjectCount;
     if (ZMErr error = CountFrameKind(art); error != ZM_ERR_NONE) {
         return error;
     }

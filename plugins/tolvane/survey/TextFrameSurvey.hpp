@@ -15,4 +15,10 @@ namespace tolvane {
 // mask (solid text colours then mark nothing). 0, or the host's code of the failing step.
 ZMErr VisitTextFrame(ZMArtHandle art, PaintKind& paintKinds, int32_t inMask);
 
+// Counts the frame as point, area or path text (a kind without a counter counts nowhere).
+ZMErr CountFrameKind(ZMArtHandle art);
+
+// Offers each font of the frame's text, in the engine's order, to the font list.
+ZMErr OfferFrameFonts(ZMArtHandle art);
+
 }  // namespace tolvane

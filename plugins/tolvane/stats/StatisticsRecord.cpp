@@ -1,0 +1,47 @@
+#include "stats/StatisticsRecord.hpp"
+
+#include "shell/ErrorAlert.hpp"
+#include "shell/SuiteSet.hpp"
+
+namespace tolvane {
+
+Statistics* gStatistics = nullptr;
+
+namespace {
+
+ZMMdMemoryHandle sStatisticsHandle = nullptr;
+
+}  // namespace
+
+ZMErr MakeStatistics() {
+    ZMMdMemoryHandle handle = nullptr;
+    ZMErr error = sMdMemorySuite->NewHandleClear(sizeof(Statistics), &handle);
+    void* block = nullptr;
+    if (error == ZM_ERR_NONE) {
+        // The block never moves: it is never resized.
+        error = sMdMemorySuite->MdMemoryHandleDeref(handle, &block);
+        if (error != ZM_ERR_NONE) {
+            sMdMemorySuite->DisposeHandle(handle);
+        }
+    }
+    if (error != ZM_ERR_NONE) {
+        ShowErrorAlert(kAlertError, kAlertMessageList, kAlertOutOfMemory, error,
+                       "DoTolvaneDlog:NewHandleClear()");
+        return error;
+    }
+    sStatisticsHandle = handle;
+    gStatistics = static_cast<Statistics*>(block);
+    return ZM_ERR_NONE;
+}
+
+void FreeStatistics() {
+    if (gStatistics == nullptr) {
+        return;
+    }
+    FreeSurveyLists(gStatistics->collected.lists);
+    sMdMemorySuite->DisposeHandle(sStatisticsHandle);
+    sStatisticsHandle = nullptr;
+    gStatistics = nullptr;
+}
+
+}  // namespace tolvane
