@@ -11,18 +11,18 @@
 namespace zm::test {
 namespace {
 
-using Entries = std::vector<std::pair<std::string, std::string>>;
+using LogEntries = std::vector<std::pair<std::string, std::string>>;
 
 using LiveShapeStatisticsTest = StatisticsFixture;
 
-Entries Shape(const char* type, const char* rounding, const char* radii) {
+LogEntries Shape(const char* type, const char* rounding, const char* radii) {
     return {{"Shape Corner Type", type}, {"Shape Rounding Type", rounding}, {"Shape Radii", radii}};
 }
 
 TEST_F(LiveShapeStatisticsTest, EachShapeWithCornersLogsOneGroupInMatchingOrder) {
     OpenFixture("stats", "corners.svg");
     tolvane::LogLiveShapeStatistics();
-    const auto& groups = usage.Groups();
+    const auto& groups = usage().Groups();
     // even, nearly, apart and mixed; the circle has no corners and the path is no live shape.
     ASSERT_EQ(groups.size(), 4u);
     for (const LoggedGroup& group : groups) {
@@ -41,14 +41,14 @@ TEST_F(LiveShapeStatisticsTest, EachShapeWithCornersLogsOneGroupInMatchingOrder)
 TEST_F(LiveShapeStatisticsTest, ADocumentWithoutLiveShapeCornersLogsNoShapeGroup) {
     OpenFixture("stats", "no-live-shapes.svg");
     tolvane::LogLiveShapeStatistics();
-    EXPECT_TRUE(usage.Groups().empty());
+    EXPECT_TRUE(usage().Groups().empty());
 }
 
 TEST_F(LiveShapeStatisticsTest, WithoutTheLiveShapesSuiteNoShapeIsExamined) {
     OpenFixture("stats", "corners.svg");
     tolvane::ReleaseOptionalSuites(tolvane::sBasicSuite);
     tolvane::LogLiveShapeStatistics();
-    EXPECT_TRUE(usage.Groups().empty());
+    EXPECT_TRUE(usage().Groups().empty());
 }
 
 TEST_F(LiveShapeStatisticsTest, TheContentGroupComesFirstThenTheShapes) {

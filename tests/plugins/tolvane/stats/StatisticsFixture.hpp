@@ -6,6 +6,7 @@
 #include <shell/OptionalSuites.hpp>
 #include <stats/DocumentContentStatistics.hpp>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,9 +19,12 @@ protected:
     void SetUp() override {
         SurveyFixture::SetUp();
         tolvane::AcquireOptionalSuites(tolvane::sBasicSuite);
+        // After the required suites, whose acquisition fills the pointer it stands in for.
+        standIn.emplace();
     }
 
     void TearDown() override {
+        standIn.reset();
         tolvane::ReleaseOptionalSuites(tolvane::sBasicSuite);
         SurveyFixture::TearDown();
     }
@@ -29,10 +33,11 @@ protected:
     const std::vector<LoggedGroup>& LogFixture(const std::string& name) {
         OpenFixture("stats", name);
         tolvane::LogDocumentContentStatistics();
-        return usage.Groups();
+        return standIn->Groups();
     }
 
-    StandInUsageSuite usage;
+    std::optional<StandInUsageSuite> standIn;
+    const StandInUsageSuite& usage() const { return *standIn; }
 };
 
 }  // namespace zm::test
