@@ -1,6 +1,6 @@
 #include "suites/SuiteRegistrations.hpp"
 
-#include "suites/CharInspection.hpp"
+#include "suites/RangeCharFeatures.hpp"
 #include "suites/CountedObjects.hpp"
 #include "suites/KRXArrayObject.hpp"
 #include "suites/SuiteGuard.hpp"

@@ -1,4 +1,4 @@
-#include "suites/CharInspection.hpp"
+#include "suites/RangeCharFeatures.hpp"
 
 #include "suites/ColorRecords.hpp"
 #include "suites/FontKeys.hpp"
