@@ -106,8 +106,9 @@ void UsageLog::Open(const std::filesystem::path& file) {
     }
     int descriptor = ::open(file.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
     if (descriptor < 0) {
+        const int error = errno;
         throw UsageLogError(
-            fmt::format("cannot open the usage log {}: {}", file.string(), ErrnoText(errno)));
+            fmt::format("cannot open the usage log {}: {}", file.string(), ErrnoText(error)));
     }
     descriptor_ = descriptor;
     file_ = file;
