@@ -8,6 +8,7 @@ packages=(
     cmake ninja-build g++ pkg-config
     libicu-dev libpugixml-dev libfmt-dev libcli11-dev libboost-dev
     liblcms2-dev
+    nlohmann-json3-dev
     libpng-dev libjpeg62-turbo-dev libtiff-dev
     libfreetype-dev libfontconfig-dev fonts-dejavu-core
     fonts-liberation2 fonts-urw-base35

@@ -6,6 +6,7 @@
 
 #include <document/ArtLookup.hpp>
 #include <importers/DocumentImport.hpp>
+#include <runtime/UsageLog.hpp>
 
 #include <zelmora/ZMNotifierSuite.h>
 
@@ -106,6 +107,18 @@ std::optional<std::filesystem::path> WrittenReport(const zm::host::Runtime& runt
 
 int RunDocInfoCommand(const SessionOptions& sessionOptions, DocInfoOptions& options,
                       std::ostream& out, std::ostream& errors) {
+    // The usage log is opened first: a path it cannot be written to is a bad argument, found
+    // before any work is done.
+    zm::host::UsageLog usageLog;
+    if (options.usageLog) {
+        try {
+            usageLog.Open(*options.usageLog);
+        } catch (const zm::host::UsageLogError& error) {
+            fmt::print(errors, "zelmora: {}\n", error.what());
+            return kExitBadArguments;
+        }
+    }
+
     // Read the file and find what to select before anything starts, so a document that
     // cannot be opened, or an id it lacks, costs no plug-in start-up and leaves nothing half
     // done.
@@ -154,6 +167,7 @@ int RunDocInfoCommand(const SessionOptions& sessionOptions, DocInfoOptions& opti
 
     HostSession session(settings, errors);
     auto& runtime = session.Runtime();
+    runtime.usage = std::move(usageLog);
     zm::host::LoadedPlugin* plugin = runtime.plugins.FindByName(kPanelPluginName);
     if (plugin == nullptr) {
         fmt::print(errors, "zelmora: the {} plug-in could not be loaded\n", kPanelPluginName);
@@ -198,6 +212,14 @@ int RunDocInfoCommand(const SessionOptions& sessionOptions, DocInfoOptions& opti
     runtime.plugins.Notify(ZM_NOTIFIER_DOCUMENT_CLOSED, nullptr);
 
     session.Finish();
+    // Closed here rather than with the runtime, so that a group that cannot be written is
+    // reported and changes the exit status.
+    try {
+        runtime.usage.Close();
+    } catch (const zm::host::UsageLogError& error) {
+        fmt::print(errors, "zelmora: {}\n", error.what());
+        status = kExitNotWritten;
+    }
     return status;
 }
 

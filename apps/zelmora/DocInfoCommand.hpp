@@ -22,12 +22,15 @@ struct DocInfoOptions {
     // Whether the panel reports the selection only; on exactly when something was selected.
     bool selectionOnly = false;
     bool quiet = false;  // no progress bar
+    // --usage-log: the file the groups plug-ins log are appended to, as JSON lines.
+    std::optional<std::filesystem::path> usageLog;
 };
 
 // Runs a document through a host session as an application would: start-up, the document
 // opened into the model, the elements asked for selected, then closed again, with the
 // notifications of each step. Returns the command's exit status; a document that cannot be
-// opened, or an id it does not hold, is one line on standard error.
+// opened, an id it does not hold, or a usage log that cannot be opened or written, is one line
+// on standard error.
 int RunDocInfoCommand(const SessionOptions& session, DocInfoOptions& options, std::ostream& out,
                       std::ostream& errors);
 

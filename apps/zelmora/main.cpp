@@ -51,6 +51,8 @@ int main(int argc, char** argv) {
                      "\"Selection Only\" on")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    docinfo->add_option("--usage-log", docInfo.usageLog,
+                        "append the close-time usage data as JSON Lines");
     std::vector<std::string> preferences;
     docinfo
         ->add_option("--pref", preferences,

@@ -21,6 +21,7 @@
 #include "runtime/Preferences.hpp"
 #include "runtime/ProgressDisplay.hpp"
 #include "runtime/ToolkitRulerUnit.hpp"
+#include "runtime/UsageLog.hpp"
 
 #include <string>
 #include <vector>
@@ -66,6 +67,7 @@ public:
     HostObjects objects;  // what plug-ins hold by handle and give back
     ProgressDisplay progress;
     DialogAnswers dialogs;
+    UsageLog usage;  // groups plug-ins log; a file only when one was opened
     fonts::FontCatalogue fonts;
     DataFilters dataFilters{blocks};  // after `blocks`, so it goes first: its handles are blocks
     // Last, so that plug-ins still loaded are stopped while everything else still exists.

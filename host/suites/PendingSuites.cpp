@@ -30,7 +30,6 @@
 #include <zelmora/ZMPatternSuite.h>
 #include <zelmora/ZMPluginGroupSuite.h>
 #include <zelmora/ZMPreferenceSuite.h>
-#include <zelmora/ZMQuorvelPIPSuite.h>
 #include <zelmora/ZMRealMathSuite.h>
 #include <zelmora/ZMStringFormatUtilsSuite.h>
 #include <zelmora/ZMSymbolSuite.h>
@@ -60,7 +59,6 @@ constexpr PendingSuiteTable kPendingSuites[] = {
     ZM_SUITE_ROW(ZM_CHARACTER_ENCODING_SUITE),
     ZM_SUITE_ROW(ZM_DEV_UTILS_SUITE),
     ZM_SUITE_ROW(ZM_LIVE_EFFECT_SUITE),
-    ZM_SUITE_ROW(ZM_QUORVEL_PIP_SUITE),
     ZM_SUITE_ROW(ZM_WORKSPACE_SUITE),
     ZM_SUITE_ROW(ZM_HV_BLOCKS_SUITE),
     ZM_SUITE_ROW(ZM_COUNTED_OBJECT_SUITE),

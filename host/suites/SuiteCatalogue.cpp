@@ -82,6 +82,7 @@ void RegisterAllSuites(SuiteRegistry& registry) {
     RegisterKRXSpellSuite(registry);
     RegisterKRXVersionInfoSuite(registry);
     RegisterKRXTextResourcesSuites(registry);
+    RegisterQuorvelPIPSuite(registry);
     RegisterPendingSuites(registry);
 }
 

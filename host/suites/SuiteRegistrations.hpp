@@ -82,6 +82,7 @@ void RegisterKRXTabStopSuites(SuiteRegistry& registry);
 void RegisterKRXSpellSuite(SuiteRegistry& registry);
 void RegisterKRXVersionInfoSuite(SuiteRegistry& registry);
 void RegisterKRXTextResourcesSuites(SuiteRegistry& registry);
+void RegisterQuorvelPIPSuite(SuiteRegistry& registry);
 void RegisterPendingSuites(SuiteRegistry& registry);
 
 }  // namespace zm::host
