@@ -5,6 +5,7 @@
 #include "shell/Globals.hpp"
 #include "shell/OptionalSuites.hpp"
 #include "shell/PanelCreation.hpp"
+#include "stats/DocumentContentStatistics.hpp"
 
 #include <zelmora/ZMNotifierSuite.h>
 #include <zelmora/ZMPluginMain.h>
@@ -62,8 +63,8 @@ ZMErr ZM_API NotifyHandler(void* message) {
         return CreatePanel();
     }
     if (Is(type, ZM_NOTIFIER_DOCUMENT_ABOUT_TO_CLOSE)) {
-        // Logged whether or not the panel is open, once the host's usage-data suite has its
-        // table (until then its entries cannot be called): LogDocumentContentStatistics().
+        // Logged whether or not the panel is open; a notifier handler never fails.
+        LogDocumentContentStatistics();
         return ZM_ERR_NONE;
     }
     if (gGlobals == nullptr || gGlobals->panel == nullptr || !gGlobals->panel->IsVisible()) {
