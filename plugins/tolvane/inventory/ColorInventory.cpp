@@ -2,6 +2,7 @@
 
 #include "inventory/CategoryGate.hpp"
 #include "inventory/ListEntry.hpp"
+#include "inventory/ProcessColorTally.hpp"
 #include "panel/PanelCategories.hpp"
 #include "shell/SuiteSet.hpp"
 #include "survey/SurveyRecord.hpp"
@@ -29,7 +30,11 @@ ZMErr AddSwatchColor(ZMCustomColorHandle color, PaintKind& marks) {
     record = ZMCustomColor{};
     ZMErr error = sCustomColorSuite->GetCustomColor(color, &record);
     marks |= record.kind == ZM_CUSTOM_COLOR_FOUR ? kPaintCmyk : kPaintRgb;
-    return error;
+    if (error != ZM_ERR_NONE) {
+        return error;
+    }
+    // A swatch without the spot mark is a global process colour.
+    return AddProcessColor(color);
 }
 
 }  // namespace

@@ -39,6 +39,7 @@ void FreeStatistics() {
         return;
     }
     FreeSurveyLists(gStatistics->collected.lists);
+    FreeSurveyStringList(gStatistics->processColorList);
     sMdMemorySuite->DisposeHandle(sStatisticsHandle);
     sStatisticsHandle = nullptr;
     gStatistics = nullptr;

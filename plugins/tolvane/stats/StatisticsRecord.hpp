@@ -39,10 +39,12 @@ struct StatisticsRecord {
 };
 
 // The statistics block of one run: the record, then the survey the shared collectors write
-// to (its record and lists, never the panel's). The lists' lengths are what the log shows.
+// to (its record and lists, never the panel's), and the process colours met. The lists'
+// lengths are what the log shows.
 struct Statistics {
     StatisticsRecord record;
     Survey collected;
+    SurveyStringList processColorList;  // the global process colours met, each once
 };
 
 // Null outside a run.

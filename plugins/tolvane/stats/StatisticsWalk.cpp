@@ -2,6 +2,7 @@
 
 #include "inventory/CategoryGate.hpp"
 #include "inventory/ColorInventory.hpp"
+#include "inventory/ProcessColorTally.hpp"
 #include "inventory/StyleInventory.hpp"
 #include "report/HostFilePath.hpp"
 #include "shell/SuiteSet.hpp"
@@ -153,6 +154,8 @@ void SurveyForStatistics() {
     // Every collector runs, into the statistics' own survey.
     EveryCategory everyCategory;
     CollectInto collectInto(gStatistics->collected);
+    GatherProcessColors processColors(gStatistics->processColorList,
+                                      record.globalProcessColorCount);
     // Members of compound paths are left out: the compound path speaks for them.
     const ZMMatchCriterion criterion{ZM_ART_ANY, 0, ZM_ART_COMPOUND_MEMBER, 0};
     ZMLayerList layers = nullptr;

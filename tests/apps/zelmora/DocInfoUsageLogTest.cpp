@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace zm::test {
@@ -101,6 +102,46 @@ TEST_F(DocInfoUsageLogTest, TwoRunsAppendTheLinesOfBothAfterWhatTheFileHeld) {
     // The same document logs the same groups each time it closes, so two runs leave one run's
     // lines twice, after the line that was there before, which stays as it was.
     EXPECT_EQ(ReadFileBytes(twice), "earlier line\n" + oneRun + oneRun);
+}
+
+// The fixture's one 10 x 10 rect, closed: the content group, then one group for the rect,
+// which is a live shape of four corners, all square (radius 0, the same type and rounding).
+// One artboard the size of the document, one implicit layer, one closed path of 4 points; the
+// rect is filled black, an RGB paint, so nothing is grayscale; no resources; the document's
+// colour model is RGB by default.
+TEST_F(DocInfoUsageLogTest, ClosingTheDocumentLogsItsContentAndItsLiveShapes) {
+    fs::path log = scratch_.Path() / "usage.jsonl";
+    CommandResult run = DocInfo(log, {"-c", "document"});
+    ASSERT_EQ(run.exitStatus, kExitDone) << run.errors;
+    const std::vector<std::pair<std::string, std::string>> content = {
+        {"Artboards", "1"},          {"Symbol Patterns", "0"},
+        {"TopLevelLayers", "1"},     {"OpenPaths", "0"},
+        {"ClosedPaths", "1"},        {"PointObjects", "4"},
+        {"CompoundPaths", "0"},      {"CompoundShapes", "0"},
+        {"GradientMeshes", "0"},     {"PointTypeObjects", "0"},
+        {"AreaTypeObjects", "0"},    {"TypeOnPathObjects", "0"},
+        {"ClippingMasks", "0"},      {"OpacityMasks", "0"},
+        {"GrayScaleObjects", "0"},   {"GraphicStylesUsed", "0"},
+        {"BrushesUsed", "0"},        {"SpotColorsUsed", "0"},
+        {"PatternObjectsUsed", "0"}, {"GlobalProcessColorsUsed", "0"},
+        {"GradientObjectsUsed", "0"}, {"FontsUsed", "0"},
+        {"LinkedImages", "0"},       {"EmbeddedImages", "0"},
+        {"TracingObjects", "0"},     {"BlendObjects", "0"},
+        {"FlareObjects", "0"},       {"EnvelopeObjects", "0"},
+        {"GraphObjects", "0"},       {"Fontvane Font in document", "No"},
+        {"Color Model", "RGB"},
+    };
+    std::string expected = "{\"group\": \"Document Content Information\", \"entries\": [";
+    for (size_t index = 0; index < content.size(); ++index) {
+        expected += (index == 0 ? "[\"" : ", [\"") + content[index].first + "\", \"" +
+                    content[index].second + "\"]";
+    }
+    expected += "]}\n";
+    expected += "{\"group\": \"Shape Document Close Group\", \"entries\": ["
+                "[\"Shape Corner Type\", \"Same Value\"], "
+                "[\"Shape Rounding Type\", \"Same Value\"], "
+                "[\"Shape Radii\", \"Same Value\"]]}\n";
+    EXPECT_EQ(ReadFileBytes(log), expected);
 }
 
 }  // namespace

@@ -81,6 +81,15 @@ TEST_F(DocumentContentStatisticsTest, OnlyClosedPathsLogNoOpenPathAndEveryPathAs
     EXPECT_EQ(ValueOf(entries, "PointObjects"), "10");
 }
 
+TEST_F(DocumentContentStatisticsTest, GlobalProcessColorsAreCountedOnceEachAndApartFromSpots) {
+    const auto& groups = LogFixture("swatches.svg");
+    ASSERT_FALSE(groups.empty());
+    const LogEntries& entries = groups[0].entries;
+    // Leaf (twice) and Sea have no spot mark: two global process colours. Ink Red is a spot.
+    EXPECT_EQ(ValueOf(entries, "GlobalProcessColorsUsed"), "2");
+    EXPECT_EQ(ValueOf(entries, "SpotColorsUsed"), "1");
+}
+
 TEST_F(DocumentContentStatisticsTest, AColorModelOutsideTheThreeKnownLogsAnEmptyValue) {
     OpenFixture("stats", "closed-paths.svg");
     ASSERT_EQ(tolvane::sDocumentSuite->SetDocumentColorModel(7), ZM_ERR_NONE);
