@@ -161,13 +161,13 @@ int RunDocInfoCommand(const SessionOptions& sessionOptions, DocInfoOptions& opti
     TerminalProgressBar bar(std::cerr);
     SessionOptions settings = sessionOptions;
     settings.saveAnswer = saveTo;
+    settings.usageLog = &usageLog;
     if (!options.quiet && isatty(STDERR_FILENO) == 1) {
         settings.progress = &bar;
     }
 
     HostSession session(settings, errors);
     auto& runtime = session.Runtime();
-    runtime.usage = std::move(usageLog);
     zm::host::LoadedPlugin* plugin = runtime.plugins.FindByName(kPanelPluginName);
     if (plugin == nullptr) {
         fmt::print(errors, "zelmora: the {} plug-in could not be loaded\n", kPanelPluginName);

@@ -9,6 +9,7 @@
 #include <ostream>
 #include <string>
 #include <system_error>
+#include <utility>
 
 namespace zelmora {
 
@@ -44,6 +45,9 @@ HostSession::HostSession(const SessionOptions& options, std::ostream& errors) : 
     runtime_.localizer.SetLocale(options.locale);
     runtime_.dialogs.saveAnswer = options.saveAnswer;
     runtime_.progress.SetReporter(options.progress);
+    if (options.usageLog != nullptr) {
+        runtime_.usage = std::move(*options.usageLog);
+    }
     runtime_.plugins.Scan(PluginFolders(options.pluginFolders));
     runtime_.plugins.StartAll();
     // An alert comes before the skip it caused, as it happened.

@@ -21,6 +21,8 @@ struct SessionOptions {
     std::string locale = "en-US";                                  // a well-formed tag
     std::optional<std::filesystem::path> saveAnswer;  // none: the save dialog is cancelled
     zm::host::ProgressReporter* progress = nullptr;   // the caller's; null shows none
+    // The caller's opened usage log, taken over by the runtime before any plug-in starts.
+    zm::host::UsageLog* usageLog = nullptr;
 };
 
 // One headless host session: the runtime, its plug-ins started from the plug-in folders,

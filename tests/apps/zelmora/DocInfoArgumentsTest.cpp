@@ -1,6 +1,8 @@
 #include "DocInfoArguments.hpp"
 #include "HostSession.hpp"
 
+#include "support/ScratchFolder.hpp"
+
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -54,6 +56,20 @@ TEST(DocInfoArgumentsTest, SessionSettingsAreInPlaceForThePlugins) {
     EXPECT_EQ(runtime.preferences.Boolean("Tolvane/alternateNames"), true);
     EXPECT_EQ(runtime.localizer.Locale(), "de-DE");
     EXPECT_EQ(runtime.dialogs.saveAnswer, std::filesystem::path("/tmp/report.txt"));
+    session.Finish();
+}
+
+TEST(DocInfoArgumentsTest, TheUsageLogOpenedBeforeTheSessionIsTheRuntimes) {
+    zm::test::ScratchFolder scratch;
+    zm::host::UsageLog log;
+    log.Open(scratch.Path() / "usage.jsonl");
+    SessionOptions options;
+    options.usageLog = &log;
+    std::ostringstream errors;
+    HostSession session(options, errors);
+    EXPECT_TRUE(session.Runtime().usage.IsLogging());
+    EXPECT_EQ(session.Runtime().usage.File(), scratch.Path() / "usage.jsonl");
+    EXPECT_FALSE(log.IsLogging());  // handed over, not shared: one file, one writer
     session.Finish();
 }
 
