@@ -14,6 +14,8 @@ inline constexpr int16_t kAlertNote = 3;
 // String lists of the alert texts.
 inline constexpr int32_t kAlertMessageList = 19200;  // what failed
 inline constexpr int16_t kAlertOutOfMemory = 3;
+// The code an alert shows when a survey or statistics record cannot be made.
+inline constexpr int32_t kAlertCodeRecord = -2;
 
 // Shows an internal failure as a modal alert: the plug-in's name and the severity word, the
 // sentence (messageList, messageIndex), and a detail line with the code and the place of

@@ -25,7 +25,8 @@ ZMErr MakeStatistics() {
         }
     }
     if (error != ZM_ERR_NONE) {
-        ShowErrorAlert(kAlertError, kAlertMessageList, kAlertOutOfMemory, error,
+        // Only a note: the document closes all the same, without its statistics.
+        ShowErrorAlert(kAlertNote, kAlertMessageList, kAlertOutOfMemory, kAlertCodeRecord,
                        "DoTolvaneDlog:NewHandleClear()");
         return error;
     }

@@ -49,7 +49,8 @@ ZMErr MakeSurvey() {
         }
     }
     if (error != ZM_ERR_NONE) {
-        ShowErrorAlert(kAlertError, kAlertMessageList, kAlertOutOfMemory, error,
+        // The alert names the place with the panel's own code for it, not the host's.
+        ShowErrorAlert(kAlertError, kAlertMessageList, kAlertOutOfMemory, kAlertCodeRecord,
                        "DoTolvaneDlog:NewHandleClear()");
         return error;
     }

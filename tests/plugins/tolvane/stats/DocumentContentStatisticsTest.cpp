@@ -7,6 +7,7 @@
 #include <survey/ArtWalk.hpp>
 
 #include <gtest/gtest.h>
+#include <zelmora/ZMMdMemorySuite.h>
 
 #include <cstring>
 #include <string>
@@ -88,6 +89,19 @@ TEST_F(DocumentContentStatisticsTest, GlobalProcessColorsAreCountedOnceEachAndAp
     // Leaf (twice) and Sea have no spot mark: two global process colours. Ink Red is a spot.
     EXPECT_EQ(ValueOf(entries, "GlobalProcessColorsUsed"), "2");
     EXPECT_EQ(ValueOf(entries, "SpotColorsUsed"), "1");
+}
+
+TEST_F(DocumentContentStatisticsTest, WithoutMemoryForTheRecordANoteNamesThePlaceAndNothingIsLogged) {
+    OpenFixture("stats", "closed-paths.svg");
+    runtime.faults.FailCall(ZM_MD_MEMORY_SUITE_NAME, 1, ZM_ERR_NO_MEMORY);  // NewHandleClear
+    tolvane::LogDocumentContentStatistics();
+    runtime.faults.Clear();
+    EXPECT_TRUE(usage().Groups().empty());
+    ASSERT_EQ(runtime.alerts.size(), 1u);
+    const std::string& text = runtime.alerts.front().text;
+    // Severity 3 is a note; the code -2 prints nothing after "ID = " ("%l" has no letter).
+    EXPECT_EQ(text.rfind("Document Info Note:", 0), 0u) << text;
+    EXPECT_NE(text.find("\rID =   DoTolvaneDlog:NewHandleClear()"), std::string::npos) << text;
 }
 
 TEST_F(DocumentContentStatisticsTest, AColorModelOutsideTheThreeKnownLogsAnEmptyValue) {
