@@ -1,13 +1,7 @@
 // A survey visits every matched art object once and gives back what it took: its time must
 // grow with the number of objects, not faster, in the category that does the most per object
 // and while saving, which runs every collector.
-#include "PluginSuites.hpp"
-
-#include <importers/svg/SvgImporter.hpp>
-
-#include <shell/Globals.hpp>
-#include <survey/ArtWalk.hpp>
-#include <survey/SurveyRecord.hpp>
+#include "SurveyRun.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -42,29 +36,13 @@ std::string Drawing(int count) {
     return svg;
 }
 
-void Survey(benchmark::State& state, int16_t mode, int32_t saving) {
-    zm::bench::PluginSuites suites;
-    suites.Runtime().documents.Add(
-        zm::host::ImportSvgText(Drawing(static_cast<int>(state.range(0))), {}));
-    tolvane::Globals globals{};
-    tolvane::InitializeGlobals(globals);
-    globals.mode = mode;
-    globals.saving = saving;
-    globals.selectionOnly = 0;  // on at first, and nothing is selected: it would match nothing
-    tolvane::gGlobals = &globals;
-    tolvane::MakeSurvey();
-    for (auto _ : state) {
-        tolvane::ResetSurvey(true);
-        tolvane::RunSurvey();
-        benchmark::DoNotOptimize(tolvane::gSurvey->record.pathCount);
-    }
-    state.SetComplexityN(state.range(0));
-    tolvane::FreeSurvey();
-    tolvane::gGlobals = nullptr;
-}
 
-void BM_SurveyOfTheObjectsCategory(benchmark::State& state) { Survey(state, 3, 0); }
-void BM_SurveyWhileSaving(benchmark::State& state) { Survey(state, 2, 1); }
+void BM_SurveyOfTheObjectsCategory(benchmark::State& state) {
+    zm::bench::RunSurveys(state, Drawing(static_cast<int>(state.range(0))), 3, 0);
+}
+void BM_SurveyWhileSaving(benchmark::State& state) {
+    zm::bench::RunSurveys(state, Drawing(static_cast<int>(state.range(0))), 2, 1);
+}
 
 }  // namespace
 

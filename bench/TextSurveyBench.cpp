@@ -1,13 +1,7 @@
 // The font categories survey only text frames and foreign objects, and every frame asks the
 // text engine for its fonts and paints: the time must grow with the number of frames, not
 // faster, however often the same few fonts come back.
-#include "PluginSuites.hpp"
-
-#include <importers/svg/SvgImporter.hpp>
-
-#include <shell/Globals.hpp>
-#include <survey/ArtWalk.hpp>
-#include <survey/SurveyRecord.hpp>
+#include "SurveyRun.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -38,28 +32,13 @@ std::string Drawing(int count) {
     return svg;
 }
 
-void Survey(benchmark::State& state, int16_t mode) {
-    zm::bench::PluginSuites suites;
-    suites.Runtime().documents.Add(
-        zm::host::ImportSvgText(Drawing(static_cast<int>(state.range(0))), {}));
-    tolvane::Globals globals{};
-    tolvane::InitializeGlobals(globals);
-    globals.mode = mode;
-    globals.selectionOnly = 0;
-    tolvane::gGlobals = &globals;
-    tolvane::MakeSurvey();
-    for (auto _ : state) {
-        tolvane::ResetSurvey(true);
-        tolvane::RunSurvey();
-        benchmark::DoNotOptimize(tolvane::gSurvey->record.typeObjectCount);
-    }
-    state.SetComplexityN(state.range(0));
-    tolvane::FreeSurvey();
-    tolvane::gGlobals = nullptr;
-}
 
-void BM_SurveyOfTheFontsCategory(benchmark::State& state) { Survey(state, 9); }
-void BM_SurveyOfTheFontDetailsCategory(benchmark::State& state) { Survey(state, 12); }
+void BM_SurveyOfTheFontsCategory(benchmark::State& state) {
+    zm::bench::RunSurveys(state, Drawing(static_cast<int>(state.range(0))), 9, 0);
+}
+void BM_SurveyOfTheFontDetailsCategory(benchmark::State& state) {
+    zm::bench::RunSurveys(state, Drawing(static_cast<int>(state.range(0))), 12, 0);
+}
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include "stats/StatisticsRecord.hpp"
 
 #include "shell/ErrorAlert.hpp"
+#include "shell/FixedBlock.hpp"
 #include "shell/SuiteSet.hpp"
 
 namespace tolvane {
@@ -15,16 +16,8 @@ ZMMdMemoryHandle sStatisticsHandle = nullptr;
 
 ZMErr MakeStatistics() {
     ZMMdMemoryHandle handle = nullptr;
-    ZMErr error = sMdMemorySuite->NewHandleClear(sizeof(Statistics), &handle);
     void* block = nullptr;
-    if (error == ZM_ERR_NONE) {
-        // The block never moves: it is never resized.
-        error = sMdMemorySuite->MdMemoryHandleDeref(handle, &block);
-        if (error != ZM_ERR_NONE) {
-            sMdMemorySuite->DisposeHandle(handle);
-        }
-    }
-    if (error != ZM_ERR_NONE) {
+    if (ZMErr error = NewFixedBlock(sizeof(Statistics), handle, block); error != ZM_ERR_NONE) {
         // Only a note: the document closes all the same, without its statistics.
         ShowErrorAlert(kAlertNote, kAlertMessageList, kAlertOutOfMemory, kAlertCodeRecord,
                        "DoTolvaneDlog:NewHandleClear()");

@@ -1,6 +1,7 @@
 #include "survey/SurveyRecord.hpp"
 
 #include "shell/ErrorAlert.hpp"
+#include "shell/FixedBlock.hpp"
 #include "shell/SuiteSet.hpp"
 
 namespace tolvane {
@@ -39,16 +40,8 @@ ZMErr MakeSurvey() {
         return ZM_ERR_NONE;
     }
     ZMMdMemoryHandle handle = nullptr;
-    ZMErr error = sMdMemorySuite->NewHandleClear(sizeof(Survey), &handle);
     void* block = nullptr;
-    if (error == ZM_ERR_NONE) {
-        // The block never moves: it is never resized.
-        error = sMdMemorySuite->MdMemoryHandleDeref(handle, &block);
-        if (error != ZM_ERR_NONE) {
-            sMdMemorySuite->DisposeHandle(handle);
-        }
-    }
-    if (error != ZM_ERR_NONE) {
+    if (ZMErr error = NewFixedBlock(sizeof(Survey), handle, block); error != ZM_ERR_NONE) {
         // The alert names the place with the panel's own code for it, not the host's.
         ShowErrorAlert(kAlertError, kAlertMessageList, kAlertOutOfMemory, kAlertCodeRecord,
                        "DoTolvaneDlog:NewHandleClear()");
